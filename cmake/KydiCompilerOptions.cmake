@@ -1,0 +1,13 @@
+# Warnings are errors with every compiler we support; the sanitizer build
+# instruments the whole tree, tests and libraries alike.
+add_library(kydi_compile_options INTERFACE)
+target_compile_options(kydi_compile_options INTERFACE
+    -Wall -Wextra -Werror -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    target_compile_options(kydi_compile_options INTERFACE -Wno-gnu-zero-variadic-macro-arguments)
+endif()
+
+if(KYDI_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+    add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,5 @@
+#include "kydi/KyDiModule.h"
+
+extern "C" int kydiEntryPoint(int /*message*/, void* /*applicationId*/) {
+    return 0;
+}
