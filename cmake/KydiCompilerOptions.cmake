@@ -2,9 +2,12 @@
 # instruments the whole tree, tests and libraries alike.
 add_library(kydi_compile_options INTERFACE)
 target_compile_options(kydi_compile_options INTERFACE
-    -Wall -Wextra -Werror -Wpedantic -Wshadow=local -Wnon-virtual-dtor -Woverloaded-virtual)
+    -Wall -Wextra -Werror -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-    target_compile_options(kydi_compile_options INTERFACE -Wno-gnu-zero-variadic-macro-arguments)
+    target_compile_options(kydi_compile_options INTERFACE
+        -Wshadow-uncaptured-local -Wno-gnu-zero-variadic-macro-arguments)
+else()
+    target_compile_options(kydi_compile_options INTERFACE -Wshadow=local)
 endif()
 
 if(KYDI_SANITIZE)

@@ -58,7 +58,7 @@ public:
     int find(wchar_t ch, int start = 0) const;
     int find(const wchar_t* text, int start = 0) const;
     KyString mid(int start, int count = -1) const;
-    KyString left(int count) const { return mid(0, count); }
+    KyString left(int count) const { return count > 0 ? mid(0, count) : KyString(); }
     KyString right(int count) const;
     KyString& makeUpper();
     KyString& makeLower();

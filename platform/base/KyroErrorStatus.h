@@ -39,6 +39,13 @@ enum ErrorStatus : int {
     eNotSupported = 431,
     eNotShown = 528,             // an object that is not to be listed
     eInvalidObjectId = 600,
+    // The drawing database.
+    eDuplicateRecordName = 96,     // a record of that name stands in the table already
+    eAlreadyInDb = 97,             // the object belongs to a database already
+    eHandleInUse = 98,             // another object of the database holds that handle
+    eObjectToBeDeleted = 99,       // the object is leaving memory with its database
+    eCannotBeErasedByCaller = 100, // a standard record the drawing can't do without
+    eCannotBeRenamed = 101,        // a standard record whose name is fixed (layer "0")
 };
 
 }  // namespace Kyro

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <type_traits>
 
+#include "base/KyArray.h"
 #include "base/KyString.h"
 #include "rx/KyRxValueType.h"
 
@@ -33,7 +34,8 @@ public:
     KyRxValue(const wchar_t* text) {  // NOLINT(google-explicit-constructor)
         init(KyRxValueType::Desc<const wchar_t*>::value(), &text);
     }
-    // A value of `type` copied from `payload` (null payload: zero bytes).
+    // A value of `type` copied from `payload`. A null payload gives zero bytes
+    // of a plain type, and the empty value for a non-blittable type.
     KyRxValue(const KyRxValueType& type, const void* payload) { init(type, payload); }
 
     template <typename T>
@@ -105,3 +107,7 @@ inline T* valueCast(KyRxValue* value) {
 
 template <>
 KYPLATFORM_API const KyRxValueType& KyRxValueType::Desc<KyString>::value();
+// An array of texts as a value: its text is the items joined by ", ".
+using KyStringArray = KyArray<KyString, KyArrayObjectCopyReallocator<KyString>>;
+template <>
+KYPLATFORM_API const KyRxValueType& KyRxValueType::Desc<KyStringArray>::value();

@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Builds everything with AddressSanitizer and UndefinedBehaviorSanitizer and
+# runs every test; each test case runs in a process of its own.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+scripts/setup.sh
+cmake -S . -B build/test -G Ninja -DCMAKE_BUILD_TYPE=Debug -DKYDI_SANITIZE=ON
+cmake --build build/test
+ctest --test-dir build/test --output-on-failure -j "$(nproc)"
