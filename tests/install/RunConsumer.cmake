@@ -28,7 +28,8 @@ find_program(PKG_CONFIG pkg-config)
 if(PKG_CONFIG)
     file(GLOB pc_dirs ${prefix}/lib*/pkgconfig ${prefix}/lib/*/pkgconfig)
     set(ENV{PKG_CONFIG_PATH} "${pc_dirs}")
-    execute_process(COMMAND ${PKG_CONFIG} --cflags --libs kydi OUTPUT_VARIABLE pc_flags
+    execute_process(COMMAND ${PKG_CONFIG} --define-variable=prefix=${prefix} --cflags --libs kydi
+        OUTPUT_VARIABLE pc_flags
         OUTPUT_STRIP_TRAILING_WHITESPACE RESULT_VARIABLE result)
     if(NOT result EQUAL 0)
         message(FATAL_ERROR "pkg-config does not know kydi")
