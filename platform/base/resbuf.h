@@ -8,12 +8,12 @@
 
 // Type codes.
 enum KyResbufType : short {
-    KYRB_NONE = 5000,     // neutral code of an empty record
-    KYRB_REAL = 5001,     // double
-    KYRB_POINT = 5002,    // two doubles
-    KYRB_SHORT = 5003,    // 16-bit integer
-    KYRB_ANGLE = 5004,    // double, an angle
-    KYRB_STRING = 5005,   // string
+    KYRB_NONE = 5000,    // neutral code of an empty record
+    KYRB_REAL = 5001,    // double
+    KYRB_POINT = 5002,   // two doubles
+    KYRB_SHORT = 5003,   // 16-bit integer
+    KYRB_ANGLE = 5004,   // double, an angle
+    KYRB_STRING = 5005,  // string
     KYRB_ENAME = 5006,
     KYRB_PICKS = 5007,
     KYRB_ORIENT = 5008,   // double, an orientation

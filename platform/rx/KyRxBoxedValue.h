@@ -25,7 +25,8 @@ public:
 class KYPLATFORM_API KyRxBoxedValueOnStack : public KyRxBoxedValue {
 public:
     KYRX_DECLARE_MEMBERS(KyRxBoxedValueOnStack);
-    explicit KyRxBoxedValueOnStack(const KyRxValue& value) : m_value(const_cast<KyRxValue*>(&value)) {}
+    explicit KyRxBoxedValueOnStack(const KyRxValue& value)
+        : m_value(const_cast<KyRxValue*>(&value)) {}
     const KyRxValue* value() const override { return m_value; }
     KyRxValue* value() override { return m_value; }
 

@@ -14,8 +14,7 @@ KyRxClass* KyRxClass::isA() const {
 
 KyRxClass::KyRxClass(const wchar_t* name, const wchar_t* parentName, int dwgVersion,
                      int maintenanceVersion, int proxyFlags, KyRxPseudoConstructor constructor,
-                     const wchar_t* dxfName, const wchar_t* appName,
-                     KyRxAppChangeCallback callback,
+                     const wchar_t* dxfName, const wchar_t* appName, KyRxAppChangeCallback callback,
                      KyRxMemberCollectionConstructorPtr memberBuilder, void* userData)
     : m_name(name),
       m_parentName(parentName),

@@ -12,10 +12,10 @@ struct KyRxModuleSymbol {
 };
 
 struct KyRxModuleDescriptor {
-    const wchar_t* name;               // "KyDbPointCloudObj.dbx"
-    bool (*start)();                   // false refuses the load; may be null
-    void (*stop)();                    // may be null
-    const KyRxModuleSymbol* symbols;   // ends with a null name; may be null
+    const wchar_t* name;              // "KyDbPointCloudObj.dbx"
+    bool (*start)();                  // false refuses the load; may be null
+    void (*stop)();                   // may be null
+    const KyRxModuleSymbol* symbols;  // ends with a null name; may be null
 };
 
 // A registered service: an object in "ServiceDictionary" under its name.

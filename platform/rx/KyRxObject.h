@@ -48,13 +48,15 @@ protected:
 
 // A runtime class `CLASS` under `PARENT`, registered by its name at the first
 // use of desc(), with an optional constructor and member builder.
-#define KYRX_DEFINE_MEMBERS_EX(CLASS, PARENT, CONSTRUCTOR, BUILDER)                      \
-    KyRxClass* CLASS::desc() {                                                           \
-        static KyRxClass* s_class =                                                      \
-            kyrxRegisterBuiltinClass(L## #CLASS, PARENT::desc(), CONSTRUCTOR, BUILDER);  \
-        return s_class;                                                                  \
-    }                                                                                    \
-    KyRxClass* CLASS::isA() const { return CLASS::desc(); }
+#define KYRX_DEFINE_MEMBERS_EX(CLASS, PARENT, CONSTRUCTOR, BUILDER)                     \
+    KyRxClass* CLASS::desc() {                                                          \
+        static KyRxClass* s_class =                                                     \
+            kyrxRegisterBuiltinClass(L## #CLASS, PARENT::desc(), CONSTRUCTOR, BUILDER); \
+        return s_class;                                                                 \
+    }                                                                                   \
+    KyRxClass* CLASS::isA() const {                                                     \
+        return CLASS::desc();                                                           \
+    }
 
 #define KYRX_DEFINE_MEMBERS(CLASS, PARENT) KYRX_DEFINE_MEMBERS_EX(CLASS, PARENT, nullptr, nullptr)
 

@@ -60,7 +60,8 @@ private:
 class KYPLATFORM_API KyRxLocalizedNameAttribute : public KyRxAttribute {
 public:
     KYRX_DECLARE_MEMBERS(KyRxLocalizedNameAttribute);
-    explicit KyRxLocalizedNameAttribute(unsigned id, unsigned table = 0) : m_id(id), m_table(table) {}
+    explicit KyRxLocalizedNameAttribute(unsigned id, unsigned table = 0)
+        : m_id(id), m_table(table) {}
     unsigned id() const { return m_id; }
     unsigned table() const { return m_table; }
     KyString localizedName() const;

@@ -59,9 +59,8 @@ public:
 protected:
     KyRxValueType(const wchar_t* name, unsigned int size,
                   KyRxMemberCollectionConstructorPtr memberBuilder, void* userData);
-    KyRxValueType(const wchar_t* name, const IKyRxNonBlittableType& nonBlittable,
-                  unsigned int size, KyRxMemberCollectionConstructorPtr memberBuilder,
-                  void* userData);
+    KyRxValueType(const wchar_t* name, const IKyRxNonBlittableType& nonBlittable, unsigned int size,
+                  KyRxMemberCollectionConstructorPtr memberBuilder, void* userData);
 
     // The default text is the tag of an enumerated payload in the given
     // format, and nothing for other types; the default equality is a byte

@@ -71,7 +71,8 @@ TEST(ClassRegistry, ChildrenRegisteredBeforeTheirParentsAreLinkedByTheHierarchyB
 }
 
 TEST(ClassRegistry, LookupsByNameAnswerTheRegisteredDescriptorOrNull) {
-    KyRxClass* cls = newKyRxClass(L"TestLookup", L"KyRxObject", 0, nullptr, L"TESTLOOKUP", L"TestApp");
+    KyRxClass* cls =
+        newKyRxClass(L"TestLookup", L"KyRxObject", 0, nullptr, L"TESTLOOKUP", L"TestApp");
     EXPECT_EQ(kyrxFindKyRxClass(L"TestLookup"), cls);
     EXPECT_EQ(kyrxFindKyRxClass(L"testlookup"), nullptr) << "names are case-sensitive";
     EXPECT_EQ(kyrxFindKyRxClass(L"NoSuchClass"), nullptr);
@@ -79,7 +80,8 @@ TEST(ClassRegistry, LookupsByNameAnswerTheRegisteredDescriptorOrNull) {
     EXPECT_STREQ(cls->dxfName(), L"TESTLOOKUP");
     EXPECT_STREQ(cls->appName(), L"TestApp");
     EXPECT_EQ(kyrxClassDictionary()->at(L"TestLookup"), cls);
-    EXPECT_EQ(newKyRxClass(L"TestLookup", L"KyRxObject"), cls) << "a taken name answers the class there";
+    EXPECT_EQ(newKyRxClass(L"TestLookup", L"KyRxObject"), cls)
+        << "a taken name answers the class there";
 }
 
 TEST(ClassRegistry, PlatformClassesAreFoundByNameWithoutBeingUsedFirst) {
