@@ -21,8 +21,10 @@ public:
     static const KyDbObjectId kNull;
 
     bool isNull() const { return m_stub == nullptr; }
-    // A non-null id whose database is still there, erased or not.
-    bool isValid() const { return m_stub != nullptr && m_stub->database != nullptr; }
+    // A non-null id whose database and object are still there, erased or not.
+    bool isValid() const {
+        return m_stub != nullptr && m_stub->database != nullptr && m_stub->object != nullptr;
+    }
     bool isErased() const { return m_stub != nullptr && (m_stub->flags & KyDbStub::kErased) != 0; }
     KyDbDatabase* database() const { return m_stub != nullptr ? m_stub->database : nullptr; }
     const KyRxClass* objectClass() const {

@@ -1,5 +1,6 @@
-// KyDbStub: what an object id points at. A database makes one stub for each
-// object it holds and keeps every stub until the process ends, so that an id
+// KyDbStub: what an object id points at. A database takes one stub for each
+// object it holds from the process-wide stub arena (KyDbStubArena), which
+// keeps every stub until the process ends and never reuses one, so that an id
 // stays safe to ask after its object is erased, has left memory, or its
 // database has gone: the stub is still there and says so.
 #pragma once
@@ -18,7 +19,7 @@ struct KyDbStub {
 
     // The database that holds the object; null once the database has gone.
     KyDbDatabase* database = nullptr;
-    // The object while it is in memory; null before it is loaded and after it left.
+    // The object while it is in memory; null once it has left with its database.
     KyDbObject* object = nullptr;
     // The object's handle, unique within its database; 0 is no handle.
     std::uint64_t handle = 0;

@@ -13,14 +13,13 @@
 
 class KyRxClassRegistry {
 public:
-    static KyRxClass* make(const wchar_t* className, const wchar_t* parentClassName,
-                           int dwgVersion, int maintenanceVersion, int proxyFlags,
+    static KyRxClass* make(const wchar_t* className, const wchar_t* parentClassName, int dwgVersion,
+                           int maintenanceVersion, int proxyFlags,
                            KyRxPseudoConstructor constructor, const wchar_t* dxfName,
                            const wchar_t* appName, KyRxAppChangeCallback callback,
                            KyRxMemberCollectionConstructorPtr memberBuilder, void* userData) {
-        return new KyRxClass(className, parentClassName, dwgVersion, maintenanceVersion,
-                             proxyFlags, constructor, dxfName, appName, callback, memberBuilder,
-                             userData);
+        return new KyRxClass(className, parentClassName, dwgVersion, maintenanceVersion, proxyFlags,
+                             constructor, dxfName, appName, callback, memberBuilder, userData);
     }
     static void link(KyRxClass* cls, KyRxClass* parent) { cls->m_parent = parent; }
     static bool waitsForParent(const KyRxClass* cls) {
@@ -38,6 +37,7 @@ void ensurePlatformClasses() {
         s_done = true;
         kyrxRegisterRuntimeClasses();
         kyrxRegisterValueTypes();
+        kyrxRegisterDatabaseClasses();
     }
 }
 
@@ -61,10 +61,10 @@ bool linkToParent(KyRxClass* cls) {
     return true;
 }
 
-KyRxClass* registerClass(const wchar_t* className, const wchar_t* parentClassName,
-                         int dwgVersion, int maintenanceVersion, int proxyFlags,
-                         KyRxPseudoConstructor constructor, const wchar_t* dxfName,
-                         const wchar_t* appName, KyRxAppChangeCallback callback,
+KyRxClass* registerClass(const wchar_t* className, const wchar_t* parentClassName, int dwgVersion,
+                         int maintenanceVersion, int proxyFlags, KyRxPseudoConstructor constructor,
+                         const wchar_t* dxfName, const wchar_t* appName,
+                         KyRxAppChangeCallback callback,
                          KyRxMemberCollectionConstructorPtr memberBuilder, void* userData) {
     if (className == nullptr || className[0] == L'\0') {
         return nullptr;
@@ -111,7 +111,8 @@ void deleteKyRxClass(KyRxClass* cls) {
     // Classes derived from this one wait for a parent of that name again.
     std::unique_ptr<KyRxDictionaryIterator> it(classes->newIterator());
     for (; !it->done(); it->next()) {
-        if (KyRxClass* child = kyrxCast<KyRxClass>(it->object()); child && child->myParent() == cls) {
+        if (KyRxClass* child = kyrxCast<KyRxClass>(it->object());
+            child && child->myParent() == cls) {
             KyRxClassRegistry::link(child, nullptr);
         }
     }
@@ -154,9 +155,9 @@ KyRxClass* kyrxRegisterBuiltinClass(const wchar_t* className, KyRxClass* parent,
         // Only a client that took the name first can cause this.
         kyrx_abort(L"Class mismatch: %ls", className);
     }
-    KyRxClass* cls = KyRxClassRegistry::make(className, parent != nullptr ? parent->name() : nullptr,
-                                             0, 0, 0, constructor, nullptr, nullptr, nullptr,
-                                             builder, nullptr);
+    KyRxClass* cls =
+        KyRxClassRegistry::make(className, parent != nullptr ? parent->name() : nullptr, 0, 0, 0,
+                                constructor, nullptr, nullptr, nullptr, builder, nullptr);
     KyRxClassRegistry::link(cls, parent);
     classes->atPut(className, cls);
     return cls;

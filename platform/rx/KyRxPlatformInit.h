@@ -8,3 +8,5 @@
 void kyrxRegisterRuntimeClasses();
 // The value types of Desc<T> and the classes behind them.
 void kyrxRegisterValueTypes();
+// Classes of the drawing database library.
+void kyrxRegisterDatabaseClasses();

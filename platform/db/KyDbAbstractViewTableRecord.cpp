@@ -1,0 +1,73 @@
+#include "db/KyDbAbstractViewTableRecord.h"
+
+#include "db/KyDbRecordReference.h"
+#include "db/KyDbStateFiler.h"
+#include "db/KyDbSun.h"
+#include "rx/KyRxClass.h"
+
+KYRX_DEFINE_MEMBERS(KyDbAbstractViewTableRecord, KyDbSymbolTableRecord)
+
+KyDbAbstractViewTableRecord::KyDbAbstractViewTableRecord() = default;
+
+KyDbAbstractViewTableRecord::~KyDbAbstractViewTableRecord() = default;
+
+Kyro::ErrorStatus KyDbAbstractViewTableRecord::setCenterPoint(const KyGePoint3d& center) {
+    return setMember(m_center, center);
+}
+
+Kyro::ErrorStatus KyDbAbstractViewTableRecord::setHeight(double height) {
+    return height <= 0.0 ? Kyro::eInvalidInput : setMember(m_height, height);
+}
+
+Kyro::ErrorStatus KyDbAbstractViewTableRecord::setWidth(double width) {
+    return width <= 0.0 ? Kyro::eInvalidInput : setMember(m_width, width);
+}
+
+Kyro::ErrorStatus KyDbAbstractViewTableRecord::setTarget(const KyGePoint3d& target) {
+    return setMember(m_target, target);
+}
+
+Kyro::ErrorStatus KyDbAbstractViewTableRecord::setViewDirection(const KyGePoint3d& direction) {
+    if (direction == KyGePoint3d::kOrigin) {
+        return Kyro::eInvalidInput;
+    }
+    return setMember(m_direction, direction);
+}
+
+Kyro::ErrorStatus KyDbAbstractViewTableRecord::setSun(KyDbObjectId sunId) {
+    if (!sunId.isNull()) {
+        if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+            return status;
+        }
+        if (const Kyro::ErrorStatus status =
+                KyDbRecordReference::check(this, sunId, KyDbSun::desc());
+            status != Kyro::eOk) {
+            return status;
+        }
+    }
+    return setMember(m_sun, sunId);
+}
+
+void KyDbAbstractViewTableRecord::subSaveState(KyDbStateFiler& filer) const {
+    KyDbSymbolTableRecord::subSaveState(filer);
+    filer.write(m_center);
+    filer.write(m_target);
+    filer.write(m_direction);
+    filer.write(m_sun);
+    filer.write(m_height);
+    filer.write(m_width);
+}
+
+Kyro::ErrorStatus KyDbAbstractViewTableRecord::subRestoreState(KyDbStateFiler& filer) {
+    if (const Kyro::ErrorStatus status = KyDbSymbolTableRecord::subRestoreState(filer);
+        status != Kyro::eOk) {
+        return status;
+    }
+    filer.read(m_center);
+    filer.read(m_target);
+    filer.read(m_direction);
+    filer.read(m_sun);
+    filer.read(m_height);
+    filer.read(m_width);
+    return filer.status();
+}

@@ -1,0 +1,44 @@
+// KyDbAbstractViewTableRecord: what views and viewport configurations share:
+// the centre of the view (in its own plane), its height and width, the
+// target point, the direction from the target to the viewer, and a sun.
+#pragma once
+
+#include "KyPlatformExport.h"
+#include "db/KyDbSymbolTableRecord.h"
+#include "ge/KyGePoint3d.h"
+
+class KYPLATFORM_API KyDbAbstractViewTableRecord : public KyDbSymbolTableRecord {
+public:
+    KYRX_DECLARE_MEMBERS(KyDbAbstractViewTableRecord);
+    ~KyDbAbstractViewTableRecord() override;
+
+    const KyGePoint3d& centerPoint() const { return m_center; }
+    Kyro::ErrorStatus setCenterPoint(const KyGePoint3d& center);
+    // eInvalidInput for a size that isn't positive.
+    double height() const { return m_height; }
+    Kyro::ErrorStatus setHeight(double height);
+    double width() const { return m_width; }
+    Kyro::ErrorStatus setWidth(double width);
+    const KyGePoint3d& target() const { return m_target; }
+    Kyro::ErrorStatus setTarget(const KyGePoint3d& target);
+    // The direction as the point it reaches from the origin; (0, 0, 1) looks
+    // down on the plan.
+    const KyGePoint3d& viewDirection() const { return m_direction; }
+    Kyro::ErrorStatus setViewDirection(const KyGePoint3d& direction);
+    // A sun object of the database, or null.
+    KyDbObjectId sunId() const { return m_sun; }
+    Kyro::ErrorStatus setSun(KyDbObjectId sunId);
+
+protected:
+    KyDbAbstractViewTableRecord();
+    void subSaveState(KyDbStateFiler& filer) const override;
+    Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
+
+private:
+    KyGePoint3d m_center;
+    KyGePoint3d m_target;
+    KyGePoint3d m_direction{0.0, 0.0, 1.0};
+    KyDbObjectId m_sun;
+    double m_height = 1.0;
+    double m_width = 1.0;
+};

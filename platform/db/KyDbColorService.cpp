@@ -1,0 +1,3 @@
+#include "db/KyDbColorService.h"
+
+KyDbColorService::~KyDbColorService() = default;

@@ -1,0 +1,27 @@
+#include "db/KyDbDictionaryVar.h"
+
+#include "db/KyDbClassSupport.h"
+#include "db/KyDbStateFiler.h"
+
+KYDB_DEFINE_MEMBERS(KyDbDictionaryVar, KyDbObject)
+
+KyDbDictionaryVar::KyDbDictionaryVar() = default;
+
+KyDbDictionaryVar::~KyDbDictionaryVar() = default;
+
+Kyro::ErrorStatus KyDbDictionaryVar::setValue(const wchar_t* value) {
+    return setMember(m_value, KyString(value));
+}
+
+void KyDbDictionaryVar::subSaveState(KyDbStateFiler& filer) const {
+    KyDbObject::subSaveState(filer);
+    filer.writeString(m_value);
+}
+
+Kyro::ErrorStatus KyDbDictionaryVar::subRestoreState(KyDbStateFiler& filer) {
+    if (const Kyro::ErrorStatus status = KyDbObject::subRestoreState(filer); status != Kyro::eOk) {
+        return status;
+    }
+    filer.read(m_value);
+    return filer.status();
+}

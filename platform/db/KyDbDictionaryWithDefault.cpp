@@ -1,0 +1,34 @@
+#include "db/KyDbDictionaryWithDefault.h"
+
+#include "db/KyDbClassSupport.h"
+#include "db/KyDbStateFiler.h"
+
+KYDB_DEFINE_MEMBERS(KyDbDictionaryWithDefault, KyDbDictionary)
+
+KyDbDictionaryWithDefault::KyDbDictionaryWithDefault() = default;
+
+KyDbDictionaryWithDefault::~KyDbDictionaryWithDefault() = default;
+
+Kyro::ErrorStatus KyDbDictionaryWithDefault::setDefaultId(KyDbObjectId id) {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (!id.isNull() && !has(id)) {
+        return Kyro::eKeyNotFound;
+    }
+    return setMember(m_default, id);
+}
+
+void KyDbDictionaryWithDefault::subSaveState(KyDbStateFiler& filer) const {
+    KyDbDictionary::subSaveState(filer);
+    filer.write(m_default);
+}
+
+Kyro::ErrorStatus KyDbDictionaryWithDefault::subRestoreState(KyDbStateFiler& filer) {
+    if (const Kyro::ErrorStatus status = KyDbDictionary::subRestoreState(filer);
+        status != Kyro::eOk) {
+        return status;
+    }
+    filer.read(m_default);
+    return filer.status();
+}

@@ -1,0 +1,62 @@
+#include "db/KyDbLayout.h"
+
+#include "db/KyDbBlockTableRecord.h"
+#include "db/KyDbClassSupport.h"
+#include "db/KyDbRecordReference.h"
+#include "db/KyDbStateFiler.h"
+
+KYDB_DEFINE_MEMBERS(KyDbLayout, KyDbPlotSettings)
+
+KyDbLayout::KyDbLayout() = default;
+
+KyDbLayout::~KyDbLayout() = default;
+
+Kyro::ErrorStatus KyDbLayout::setLayoutName(const wchar_t* value) {
+    if (value == nullptr || value[0] == L'\0') {
+        return Kyro::eInvalidInput;
+    }
+    return setMember(m_layoutName, KyString(value));
+}
+
+Kyro::ErrorStatus KyDbLayout::setTabOrder(int value) {
+    if (value < 0) {
+        return Kyro::eInvalidInput;
+    }
+    return setMember(m_tabOrder, value);
+}
+
+Kyro::ErrorStatus KyDbLayout::setBlockTableRecordId(KyDbObjectId value) {
+    if (!value.isNull()) {
+        if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+            return status;
+        }
+        if (const Kyro::ErrorStatus status =
+                KyDbRecordReference::check(this, value, KyDbBlockTableRecord::desc());
+            status != Kyro::eOk) {
+            return status;
+        }
+    }
+    return setMember(m_block, value);
+}
+
+bool KyDbLayout::modelType() const {
+    return tabOrder() == 0;
+}
+
+void KyDbLayout::subSaveState(KyDbStateFiler& filer) const {
+    KyDbPlotSettings::subSaveState(filer);
+    filer.writeString(m_layoutName);
+    filer.write(m_tabOrder);
+    filer.write(m_block);
+}
+
+Kyro::ErrorStatus KyDbLayout::subRestoreState(KyDbStateFiler& filer) {
+    if (const Kyro::ErrorStatus status = KyDbPlotSettings::subRestoreState(filer);
+        status != Kyro::eOk) {
+        return status;
+    }
+    filer.read(m_layoutName);
+    filer.read(m_tabOrder);
+    filer.read(m_block);
+    return filer.status();
+}

@@ -1,0 +1,48 @@
+#include "db/KyDbMLeaderStyle.h"
+
+#include "db/KyDbClassSupport.h"
+#include "db/KyDbRecordReference.h"
+#include "db/KyDbStateFiler.h"
+#include "db/KyDbTextStyleTableRecord.h"
+
+KYDB_DEFINE_MEMBERS(KyDbMLeaderStyle, KyDbObject)
+
+KyDbMLeaderStyle::KyDbMLeaderStyle() = default;
+
+KyDbMLeaderStyle::~KyDbMLeaderStyle() = default;
+
+Kyro::ErrorStatus KyDbMLeaderStyle::setName(const wchar_t* value) {
+    if (value == nullptr || value[0] == L'\0') {
+        return Kyro::eInvalidInput;
+    }
+    return setMember(m_name, KyString(value));
+}
+
+Kyro::ErrorStatus KyDbMLeaderStyle::setTextStyleId(KyDbObjectId value) {
+    if (!value.isNull()) {
+        if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+            return status;
+        }
+        if (const Kyro::ErrorStatus status =
+                KyDbRecordReference::check(this, value, KyDbTextStyleTableRecord::desc());
+            status != Kyro::eOk) {
+            return status;
+        }
+    }
+    return setMember(m_textStyle, value);
+}
+
+void KyDbMLeaderStyle::subSaveState(KyDbStateFiler& filer) const {
+    KyDbObject::subSaveState(filer);
+    filer.writeString(m_name);
+    filer.write(m_textStyle);
+}
+
+Kyro::ErrorStatus KyDbMLeaderStyle::subRestoreState(KyDbStateFiler& filer) {
+    if (const Kyro::ErrorStatus status = KyDbObject::subRestoreState(filer); status != Kyro::eOk) {
+        return status;
+    }
+    filer.read(m_name);
+    filer.read(m_textStyle);
+    return filer.status();
+}

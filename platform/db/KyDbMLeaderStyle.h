@@ -1,0 +1,26 @@
+// KyDbMLeaderStyle: a multileader style: its name and the text
+// style of its text.
+#pragma once
+
+#include "KyPlatformExport.h"
+#include "db/KyDbObject.h"
+
+class KYPLATFORM_API KyDbMLeaderStyle : public KyDbObject {
+public:
+    KYRX_DECLARE_MEMBERS(KyDbMLeaderStyle);
+    KyDbMLeaderStyle();
+    ~KyDbMLeaderStyle() override;
+
+    const KyString& name() const { return m_name; }
+    Kyro::ErrorStatus setName(const wchar_t* value);
+    KyDbObjectId textStyleId() const { return m_textStyle; }
+    Kyro::ErrorStatus setTextStyleId(KyDbObjectId value);
+
+protected:
+    void subSaveState(KyDbStateFiler& filer) const override;
+    Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
+
+private:
+    KyString m_name;
+    KyDbObjectId m_textStyle;
+};

@@ -1,0 +1,26 @@
+// KyDbModelDocViewStyle: what section and detail view styles share: a
+// name and a description.
+#pragma once
+
+#include "KyPlatformExport.h"
+#include "db/KyDbObject.h"
+
+class KYPLATFORM_API KyDbModelDocViewStyle : public KyDbObject {
+public:
+    KYRX_DECLARE_MEMBERS(KyDbModelDocViewStyle);
+    ~KyDbModelDocViewStyle() override;
+
+    const KyString& name() const { return m_name; }
+    Kyro::ErrorStatus setName(const wchar_t* value);
+    const KyString& description() const { return m_description; }
+    Kyro::ErrorStatus setDescription(const wchar_t* value);
+
+protected:
+    KyDbModelDocViewStyle();
+    void subSaveState(KyDbStateFiler& filer) const override;
+    Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
+
+private:
+    KyString m_name;
+    KyString m_description;
+};

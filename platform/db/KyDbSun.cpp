@@ -1,0 +1,50 @@
+#include "db/KyDbSun.h"
+
+#include "db/KyDbClassSupport.h"
+#include "db/KyDbStateFiler.h"
+
+KYDB_DEFINE_MEMBERS(KyDbSun, KyDbObject)
+
+KyDbSun::KyDbSun() {
+    m_color.setColorIndex(KyCmColor::kACIWhite);
+}
+
+KyDbSun::~KyDbSun() = default;
+
+Kyro::ErrorStatus KyDbSun::setOn(bool value) {
+    return setMember(m_on, value);
+}
+
+Kyro::ErrorStatus KyDbSun::setIntensity(double value) {
+    if (value < 0.0) {
+        return Kyro::eInvalidInput;
+    }
+    return setMember(m_intensity, value);
+}
+
+Kyro::ErrorStatus KyDbSun::setSunColor(const KyCmColor& value) {
+    return setMember(m_color, value);
+}
+
+Kyro::ErrorStatus KyDbSun::setShadowType(int value) {
+    return setMember(m_shadowType, value);
+}
+
+void KyDbSun::subSaveState(KyDbStateFiler& filer) const {
+    KyDbObject::subSaveState(filer);
+    filer.write(m_on);
+    filer.write(m_intensity);
+    filer.write(m_color);
+    filer.write(m_shadowType);
+}
+
+Kyro::ErrorStatus KyDbSun::subRestoreState(KyDbStateFiler& filer) {
+    if (const Kyro::ErrorStatus status = KyDbObject::subRestoreState(filer); status != Kyro::eOk) {
+        return status;
+    }
+    filer.read(m_on);
+    filer.read(m_intensity);
+    filer.read(m_color);
+    filer.read(m_shadowType);
+    return filer.status();
+}

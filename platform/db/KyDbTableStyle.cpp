@@ -1,0 +1,49 @@
+#include "db/KyDbTableStyle.h"
+
+#include "db/KyDbClassSupport.h"
+#include "db/KyDbStateFiler.h"
+
+KYDB_DEFINE_MEMBERS(KyDbTableStyle, KyDbObject)
+
+KyDbTableStyle::KyDbTableStyle() {
+    m_cellStyles.append(KyString(L"Title"));
+    m_cellStyles.append(KyString(L"Header"));
+    m_cellStyles.append(KyString(L"Data"));
+}
+
+KyDbTableStyle::~KyDbTableStyle() = default;
+
+Kyro::ErrorStatus KyDbTableStyle::setName(const wchar_t* value) {
+    if (value == nullptr || value[0] == L'\0') {
+        return Kyro::eInvalidInput;
+    }
+    return setMember(m_name, KyString(value));
+}
+
+Kyro::ErrorStatus KyDbTableStyle::setCellStyles(const KyStringArray& value) {
+    return setMember(m_cellStyles, value);
+}
+
+bool KyDbTableStyle::hasCellStyle(const wchar_t* name) const {
+    for (const KyString& style : m_cellStyles) {
+        if (style.compareNoCase(name) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void KyDbTableStyle::subSaveState(KyDbStateFiler& filer) const {
+    KyDbObject::subSaveState(filer);
+    filer.writeString(m_name);
+    filer.write(m_cellStyles);
+}
+
+Kyro::ErrorStatus KyDbTableStyle::subRestoreState(KyDbStateFiler& filer) {
+    if (const Kyro::ErrorStatus status = KyDbObject::subRestoreState(filer); status != Kyro::eOk) {
+        return status;
+    }
+    filer.read(m_name);
+    filer.read(m_cellStyles);
+    return filer.status();
+}

@@ -1,0 +1,28 @@
+#include "db/KyDbViewTableRecord.h"
+
+#include "db/KyDbClassSupport.h"
+#include "db/KyDbStateFiler.h"
+
+KYDB_DEFINE_MEMBERS(KyDbViewTableRecord, KyDbAbstractViewTableRecord)
+
+KyDbViewTableRecord::KyDbViewTableRecord() = default;
+
+KyDbViewTableRecord::~KyDbViewTableRecord() = default;
+
+Kyro::ErrorStatus KyDbViewTableRecord::setIsPaperspaceView(bool paperSpace) {
+    return setMember(m_paperSpace, paperSpace);
+}
+
+void KyDbViewTableRecord::subSaveState(KyDbStateFiler& filer) const {
+    KyDbAbstractViewTableRecord::subSaveState(filer);
+    filer.write(m_paperSpace);
+}
+
+Kyro::ErrorStatus KyDbViewTableRecord::subRestoreState(KyDbStateFiler& filer) {
+    if (const Kyro::ErrorStatus status = KyDbAbstractViewTableRecord::subRestoreState(filer);
+        status != Kyro::eOk) {
+        return status;
+    }
+    filer.read(m_paperSpace);
+    return filer.status();
+}
