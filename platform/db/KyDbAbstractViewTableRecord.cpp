@@ -1,11 +1,39 @@
 #include "db/KyDbAbstractViewTableRecord.h"
 
+#include "db/KyDbClassSupport.h"
 #include "db/KyDbRecordReference.h"
 #include "db/KyDbStateFiler.h"
 #include "db/KyDbSun.h"
 #include "rx/KyRxClass.h"
 
-KYRX_DEFINE_MEMBERS(KyDbAbstractViewTableRecord, KyDbSymbolTableRecord)
+namespace {
+
+const KyDbPropertyRow kAbstractViewTableRecordRows[] = {
+    {L"Center",
+     kydbiAccess<&KyDbAbstractViewTableRecord::centerPoint,
+                 &KyDbAbstractViewTableRecord::setCenterPoint>(),
+     KyDbCategory::kGeometry, 1},
+    {L"Height",
+     kydbiAccess<&KyDbAbstractViewTableRecord::height, &KyDbAbstractViewTableRecord::setHeight>(),
+     KyDbCategory::kGeometry, 2},
+    {L"Width",
+     kydbiAccess<&KyDbAbstractViewTableRecord::width, &KyDbAbstractViewTableRecord::setWidth>(),
+     KyDbCategory::kGeometry, 3},
+    {L"Target",
+     kydbiAccess<&KyDbAbstractViewTableRecord::target, &KyDbAbstractViewTableRecord::setTarget>(),
+     KyDbCategory::kGeometry, 4},
+    {L"Direction",
+     kydbiAccess<&KyDbAbstractViewTableRecord::viewDirection,
+                 &KyDbAbstractViewTableRecord::setViewDirection>(),
+     KyDbCategory::kGeometry, 5},
+    {L"SunId",
+     kydbiAccess<&KyDbAbstractViewTableRecord::sunId, &KyDbAbstractViewTableRecord::setSun>()},
+};
+
+}  // namespace
+
+KYDB_DEFINE_BASE_CLASS(KyDbAbstractViewTableRecord, KyDbSymbolTableRecord,
+                       kAbstractViewTableRecordRows)
 
 KyDbAbstractViewTableRecord::KyDbAbstractViewTableRecord() = default;
 

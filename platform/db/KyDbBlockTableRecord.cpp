@@ -10,7 +10,31 @@
 #include "db/KyDbStandardContent.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbBlockTableRecord, KyDbSymbolTableRecord)
+namespace {
+
+const KyDbPropertyRow kBlockTableRecordRows[] = {
+    {L"Description",
+     kydbiAccess<&KyDbBlockTableRecord::comments, &KyDbBlockTableRecord::setComments>(),
+     KyDbCategory::kGeneral, 1},
+    {L"Origin", kydbiAccess<&KyDbBlockTableRecord::origin, &KyDbBlockTableRecord::setOrigin>(),
+     KyDbCategory::kGeometry, 1},
+    {L"PathName",
+     kydbiAccess<&KyDbBlockTableRecord::pathName, &KyDbBlockTableRecord::setPathName>(),
+     KyDbCategory::kMisc, 1},
+    {L"IsFromExternalReference", kydbiAccess<&KyDbBlockTableRecord::isFromExternalReference>(),
+     KyDbCategory::kMisc, 2},
+    {L"IsFromOverlayReference",
+     kydbiAccess<&KyDbBlockTableRecord::isFromOverlayReference,
+                 &KyDbBlockTableRecord::setIsFromOverlayReference>(),
+     KyDbCategory::kMisc, 3},
+    {L"IsLayout", kydbiAccess<&KyDbBlockTableRecord::isLayout>(), KyDbCategory::kMisc, 4},
+    {L"IsAnonymous", kydbiAccess<&KyDbBlockTableRecord::isAnonymous>(), KyDbCategory::kMisc, 5},
+    {L"LayoutId", kydbiAccess<&KyDbBlockTableRecord::getLayoutId>()},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbBlockTableRecord, KyDbSymbolTableRecord, kBlockTableRecordRows)
 
 KyDbBlockTableRecord::KyDbBlockTableRecord() = default;
 
@@ -71,27 +95,11 @@ Kyro::ErrorStatus KyDbBlockTableRecord::appendKyDbEntity(KyDbEntity* entity) {
 
 Kyro::ErrorStatus KyDbBlockTableRecord::appendKyDbEntity(KyDbObjectId& id, KyDbEntity* entity,
                                                          KyDbHandle handle) {
-    if (!isDatabaseResident()) {
-        return Kyro::eNotInDatabase;
-    }
-    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+    if (const Kyro::ErrorStatus status = checkCanOwn(entity); status != Kyro::eOk) {
         return status;
     }
-    if (entity == nullptr) {
-        return Kyro::eNullObjectPointer;
-    }
-    if (entity->isDatabaseResident()) {
-        return Kyro::eAlreadyInDb;
-    }
-    if (const Kyro::ErrorStatus status = KyDbObjectAccess::checkHandle(database(), handle);
-        status != Kyro::eOk) {
-        return status;
-    }
-    assertWriteEnabled();
     KyDbObjectId newId;
-    const Kyro::ErrorStatus status =
-        KyDbObjectAccess::append(database(), entity, objectId(), handle, newId);
-    if (status != Kyro::eOk) {
+    if (const Kyro::ErrorStatus status = appendOwned(entity, handle, newId); status != Kyro::eOk) {
         return status;
     }
     m_entities.append(newId);

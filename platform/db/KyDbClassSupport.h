@@ -1,9 +1,14 @@
 // Internal to the drawing database; not part of the platform's interface.
 //
-// Runtime classes of the database whose objects can be made by class (a
-// reader makes a record from its class name: kyrxFindKyRxClass(name)->create()).
+// Runtime classes of the database. A class whose objects can be made by class
+// (a reader makes a record from its class name:
+// kyrxFindKyRxClass(name)->create()) has a constructor; a base class has none.
+// Every class carries its local name (KyRxLocalizedNameAttribute, from
+// KyDbPropertyTexts) when the platform has a text for it, and builds its
+// reflected members from a table of rows (KyDbPropertyTable.h).
 #pragma once
 
+#include "db/KyDbPropertyTable.h"
 #include "rx/KyRxClass.h"
 #include "rx/KyRxObject.h"
 
@@ -12,5 +17,27 @@ KyRxObject* kydbiConstruct() {
     return new T();
 }
 
+// Registers a class of the database under `parent` with its local name.
+KyRxClass* kydbiRegisterClass(const wchar_t* className, KyRxClass* parent,
+                              KyRxPseudoConstructor constructor,
+                              KyRxMemberCollectionConstructorPtr builder);
+
+#define KYDB_DEFINE_CLASS_EX(CLASS, PARENT, CONSTRUCTOR, BUILDER)                 \
+    KyRxClass* CLASS::desc() {                                                    \
+        static KyRxClass* s_class =                                               \
+            kydbiRegisterClass(L## #CLASS, PARENT::desc(), CONSTRUCTOR, BUILDER); \
+        return s_class;                                                           \
+    }                                                                             \
+    KyRxClass* CLASS::isA() const {                                               \
+        return CLASS::desc();                                                     \
+    }
+
+// A class made by class, without members of its own.
 #define KYDB_DEFINE_MEMBERS(CLASS, PARENT) \
-    KYRX_DEFINE_MEMBERS_EX(CLASS, PARENT, &kydbiConstruct<CLASS>, nullptr)
+    KYDB_DEFINE_CLASS_EX(CLASS, PARENT, &kydbiConstruct<CLASS>, nullptr)
+// A class made by class, with the members of ROWS.
+#define KYDB_DEFINE_CLASS(CLASS, PARENT, ROWS) \
+    KYDB_DEFINE_CLASS_EX(CLASS, PARENT, &kydbiConstruct<CLASS>, &kydbiBuildMembers<ROWS>)
+// A base class (not made by class), with the members of ROWS.
+#define KYDB_DEFINE_BASE_CLASS(CLASS, PARENT, ROWS) \
+    KYDB_DEFINE_CLASS_EX(CLASS, PARENT, nullptr, &kydbiBuildMembers<ROWS>)

@@ -5,6 +5,7 @@
 
 #include "db/KyDbBlockTable.h"
 #include "db/KyDbBlockTableRecord.h"
+#include "db/KyDbClassSupport.h"
 #include "db/KyDbDatabaseReactor.h"
 #include "db/KyDbDictionary.h"
 #include "db/KyDbDimStyleTable.h"
@@ -23,7 +24,39 @@
 #include "db/KyDbViewportTable.h"
 #include "rx/KyRxClass.h"
 
-KYRX_DEFINE_MEMBERS(KyDbDatabase, KyRxObject)
+namespace {
+
+// The tables and dictionaries of a drawing, the first steps of reference
+// paths ("/LayerTableId/Items"). "RenderSettingsDictionary" names the render
+// presets' dictionary the way paths of render settings spell it.
+const KyDbPropertyRow kDatabaseRows[] = {
+    {L"BlockTableId", kydbiAccess<&KyDbDatabase::blockTableId>()},
+    {L"LayerTableId", kydbiAccess<&KyDbDatabase::layerTableId>()},
+    {L"LinetypeTableId", kydbiAccess<&KyDbDatabase::linetypeTableId>()},
+    {L"TextStyleTableId", kydbiAccess<&KyDbDatabase::textStyleTableId>()},
+    {L"DimStyleTableId", kydbiAccess<&KyDbDatabase::dimStyleTableId>()},
+    {L"ViewTableId", kydbiAccess<&KyDbDatabase::viewTableId>()},
+    {L"ViewportTableId", kydbiAccess<&KyDbDatabase::viewportTableId>()},
+    {L"UCSTableId", kydbiAccess<&KyDbDatabase::UCSTableId>()},
+    {L"NamedObjectsDictionaryId", kydbiAccess<&KyDbDatabase::namedObjectsDictionaryId>()},
+    {L"LayoutDictionaryId", kydbiAccess<&KyDbDatabase::layoutDictionaryId>()},
+    {L"MaterialDictionaryId", kydbiAccess<&KyDbDatabase::materialDictionaryId>()},
+    {L"PlotSettingsDictionaryId", kydbiAccess<&KyDbDatabase::plotSettingsDictionaryId>()},
+    {L"PlotStyleNameDictionaryId", kydbiAccess<&KyDbDatabase::plotStyleNameDictionaryId>()},
+    {L"ScaleListDictionaryId", kydbiAccess<&KyDbDatabase::scaleListDictionaryId>()},
+    {L"VisualStyleDictionaryId", kydbiAccess<&KyDbDatabase::visualStyleDictionaryId>()},
+    {L"TableStyleDictionaryId", kydbiAccess<&KyDbDatabase::tableStyleDictionaryId>()},
+    {L"MLeaderStyleDictionaryId", kydbiAccess<&KyDbDatabase::mleaderStyleDictionaryId>()},
+    {L"DetailViewStyleDictionaryId", kydbiAccess<&KyDbDatabase::detailViewStyleDictionaryId>()},
+    {L"SectionViewStyleDictionaryId", kydbiAccess<&KyDbDatabase::sectionViewStyleDictionaryId>()},
+    {L"RenderSettingsDictionaryId", kydbiAccess<&KyDbDatabase::renderSettingsDictionaryId>()},
+    {L"RenderSettingsDictionary", kydbiAccess<&KyDbDatabase::renderSettingsDictionaryId>()},
+    {L"VariableDictionaryId", kydbiAccess<&KyDbDatabase::variableDictionaryId>()},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS_EX(KyDbDatabase, KyRxObject, nullptr, &kydbiBuildMembers<kDatabaseRows>)
 
 namespace {
 

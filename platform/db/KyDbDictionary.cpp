@@ -1,5 +1,7 @@
 #include "db/KyDbDictionary.h"
 
+#include <memory>
+
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbDictionaryIterator.h"
@@ -7,7 +9,48 @@
 #include "db/KyDbOpenObject.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbDictionary, KyDbObject)
+namespace {
+
+// The entries whose objects are not erased, in order.
+Kyro::ErrorStatus listEntries(const KyRxObject* object, KyDbIdList& ids) {
+    const KyDbDictionary* dictionary = kyrxCast<KyDbDictionary>(object);
+    if (dictionary == nullptr) {
+        return Kyro::eNotThatKindOfClass;
+    }
+    std::unique_ptr<KyDbDictionaryIterator> it(dictionary->newIterator());
+    for (; !it->done(); it->next()) {
+        ids.append(it->objectId());
+    }
+    return Kyro::eOk;
+}
+
+const KyDbPropertyRow kDictionaryRows[] = {
+    {L"Name", kydbiReadOnly<KyString>(&kydbiGetEntryName), KyDbCategory::kGeneral, 0},
+    {L"Items", {}, nullptr, 0, nullptr, &kydbiIdCollection<&listEntries>},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbDictionary, KyDbObject, kDictionaryRows)
+
+Kyro::ErrorStatus kydbiGetEntryName(const KyRxObject* object, KyRxValue& value) {
+    const KyDbObject* entry = kyrxCast<KyDbObject>(object);
+    if (entry == nullptr) {
+        return Kyro::eNotThatKindOfClass;
+    }
+    if (const Kyro::ErrorStatus status = kydbiReadStatus(entry); status != Kyro::eOk) {
+        return status;
+    }
+    KyString key;
+    const KyDbStub* owner = entry->ownerId().stub();
+    if (owner != nullptr && owner->object != nullptr) {
+        if (const KyDbDictionary* dictionary = kyrxCast<KyDbDictionary>(owner->object)) {
+            dictionary->nameAt(entry->objectId(), key);
+        }
+    }
+    value = KyRxValue(key);
+    return Kyro::eOk;
+}
 
 KyDbDictionary::KyDbDictionary() = default;
 

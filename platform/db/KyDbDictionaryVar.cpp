@@ -3,7 +3,17 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbDictionaryVar, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kDictionaryVarRows[] = {
+    {L"Name", kydbiReadOnly<KyString>(&kydbiGetEntryName), KyDbCategory::kGeneral, 0},
+    {L"Value", kydbiAccess<&KyDbDictionaryVar::value, &KyDbDictionaryVar::setValue>(),
+     KyDbCategory::kGeneral, 1},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbDictionaryVar, KyDbObject, kDictionaryVarRows)
 
 KyDbDictionaryVar::KyDbDictionaryVar() = default;
 

@@ -3,7 +3,16 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbDictionaryWithDefault, KyDbDictionary)
+namespace {
+
+const KyDbPropertyRow kDictionaryWithDefaultRows[] = {
+    {L"DefaultId", kydbiAccess<&KyDbDictionaryWithDefault::defaultId,
+                               &KyDbDictionaryWithDefault::setDefaultId>()},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbDictionaryWithDefault, KyDbDictionary, kDictionaryWithDefaultRows)
 
 KyDbDictionaryWithDefault::KyDbDictionaryWithDefault() = default;
 

@@ -7,7 +7,17 @@
 #include "db/KyDbStateFiler.h"
 #include "db/KyDbTextStyleTableRecord.h"
 
-KYDB_DEFINE_MEMBERS(KyDbDimStyleTableRecord, KyDbSymbolTableRecord)
+namespace {
+
+const KyDbPropertyRow kDimStyleTableRecordRows[] = {
+    {L"TextStyleId",
+     kydbiAccess<&KyDbDimStyleTableRecord::dimtxsty, &KyDbDimStyleTableRecord::setDimtxsty>(),
+     KyDbCategory::kText, 1, L"/TextStyleTableId/Items"},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbDimStyleTableRecord, KyDbSymbolTableRecord, kDimStyleTableRecordRows)
 
 KyDbDimStyleTableRecord::KyDbDimStyleTableRecord() = default;
 

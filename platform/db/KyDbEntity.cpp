@@ -1,5 +1,6 @@
 #include "db/KyDbEntity.h"
 
+#include "db/KyDbBlockTableRecord.h"
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbLayerTableRecord.h"
@@ -9,7 +10,38 @@
 #include "db/KyDbStandardContent.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbEntity, KyDbObject)
+namespace {
+
+using Entity = KyDbEntity;
+
+// What every entity shows in the palette's "General" group, in its order.
+const KyDbPropertyRow kEntityRows[] = {
+    {L"Color", kydbiAccess<&Entity::color, &Entity::setColor>(), KyDbCategory::kGeneral, 0},
+    {L"LayerId",
+     kydbiAccess<&Entity::layerId, kydbiSetter<Entity, KyDbObjectId>(&Entity::setLayer)>(),
+     KyDbCategory::kGeneral, 1, L"/LayerTableId/Items"},
+    {L"LinetypeId",
+     kydbiAccess<&Entity::linetypeId, kydbiSetter<Entity, KyDbObjectId>(&Entity::setLinetype)>(),
+     KyDbCategory::kGeneral, 2, L"/LinetypeTableId/Items"},
+    {L"LinetypeScale", kydbiAccess<&Entity::linetypeScale, &Entity::setLinetypeScale>(),
+     KyDbCategory::kGeneral, 3},
+    {L"PlotStyle", kydbiAccess<&Entity::plotStyleName, &Entity::setPlotStyleName>(),
+     KyDbCategory::kGeneral, 4, L"/PlotStyleNameDictionaryId/Items"},
+    {L"LineWeight", kydbiAccess<&Entity::lineWeight, &Entity::setLineWeight>(),
+     KyDbCategory::kGeneral, 5},
+    {L"Transparency", kydbiAccess<&Entity::transparency, &Entity::setTransparency>(),
+     KyDbCategory::kGeneral, 6},
+    {L"MaterialId",
+     kydbiAccess<&Entity::materialId, kydbiSetter<Entity, KyDbObjectId>(&Entity::setMaterial)>(),
+     KyDbCategory::kGeneral, 8, L"/MaterialDictionaryId/Items"},
+    {L"Visible", kydbiAccess<&Entity::visibility, &Entity::setVisibility>(), KyDbCategory::kMisc,
+     0},
+    {L"BlockId", kydbiAccess<&Entity::blockId>()},
+};
+
+}  // namespace
+
+KYDB_DEFINE_BASE_CLASS(KyDbEntity, KyDbObject, kEntityRows)
 
 KyDbEntity::KyDbEntity() : m_plotStyleName(KyDbStandardContent::kByLayer) {}
 
@@ -25,6 +57,64 @@ Kyro::ErrorStatus KyDbEntity::setReference(KyDbObjectId& member, KyDbObjectId id
         return status;
     }
     return setMember(member, id);
+}
+
+Kyro::ErrorStatus KyDbEntity::setReference(KyDbObjectId& member, const wchar_t* name,
+                                           KyDbObjectId (KyDbDatabase::*container)() const,
+                                           const KyRxClass* recordClass) {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    KyDbObjectId id;
+    if (const Kyro::ErrorStatus status = KyDbRecordReference::findNamed(this, container, name, id);
+        status != Kyro::eOk) {
+        return status;
+    }
+    return setReference(member, id, recordClass);
+}
+
+KyDbObjectId KyDbEntity::blockId() const {
+    // An attribute stands in its block reference: go up to a block.
+    KyDbObjectId owner = ownerId();
+    while (owner.isValid() &&
+           !KyRxClass::isDerivedFrom(owner.objectClass(), KyDbBlockTableRecord::desc())) {
+        owner = owner.stub()->object->ownerId();
+    }
+    return owner;
+}
+
+Kyro::ErrorStatus KyDbEntity::setLayer(const wchar_t* layerName) {
+    return setReference(m_layer, layerName, &KyDbDatabase::layerTableId,
+                        KyDbLayerTableRecord::desc());
+}
+
+Kyro::ErrorStatus KyDbEntity::setLinetype(const wchar_t* linetypeName) {
+    return setReference(m_linetype, linetypeName, &KyDbDatabase::linetypeTableId,
+                        KyDbLinetypeTableRecord::desc());
+}
+
+Kyro::ErrorStatus KyDbEntity::setMaterial(const wchar_t* materialName) {
+    return setReference(m_material, materialName, &KyDbDatabase::materialDictionaryId,
+                        KyDbMaterial::desc());
+}
+
+Kyro::ErrorStatus KyDbEntity::setColorIndex(unsigned short index) {
+    KyCmColor color;
+    if (index > KyCmColor::kACIbyLayer || color.setColorIndex(index) != Kyro::eOk) {
+        return Kyro::eInvalidInput;
+    }
+    return setColor(color);
+}
+
+Kyro::ErrorStatus KyDbEntity::setPointIn(KyArray<KyGePoint3d>& points, int index,
+                                         const KyGePoint3d& point) {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (!points.isValid(index)) {
+        return Kyro::eInvalidIndex;
+    }
+    return setMember(points[index], point);
 }
 
 Kyro::ErrorStatus KyDbEntity::setLayer(KyDbObjectId layerId) {

@@ -1,5 +1,7 @@
 #include "db/KyDbLayerTableRecord.h"
 
+#include <algorithm>
+
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbLinetypeTableRecord.h"
@@ -7,8 +9,57 @@
 #include "db/KyDbStandardContent.h"
 #include "db/KyDbStateFiler.h"
 #include "db/KyDbSymbolTable.h"
+#include "db/KyDbViewport.h"
 
-KYDB_DEFINE_MEMBERS(KyDbLayerTableRecord, KyDbSymbolTableRecord)
+namespace {
+
+using Layer = KyDbLayerTableRecord;
+
+const KyDbPropertyRow kLayerRows[] = {
+    {L"Color",
+     kydbiAccess<kydbiGetter<Layer, const KyCmColor&>(&Layer::color),
+                 kydbiSetter<Layer, const KyCmColor&>(&Layer::setColor)>(),
+     KyDbCategory::kGeneral, 1},
+    {L"LinetypeObjectId",
+     kydbiAccess<kydbiGetter<Layer, KyDbObjectId>(&Layer::linetypeObjectId),
+                 kydbiSetter<Layer, KyDbObjectId>(&Layer::setLinetypeObjectId)>(),
+     KyDbCategory::kGeneral, 2, L"/LinetypeTableId/Items"},
+    {L"LineWeight",
+     kydbiAccess<kydbiGetter<Layer, KyDb::LineWeight>(&Layer::lineWeight),
+                 kydbiSetter<Layer, KyDb::LineWeight>(&Layer::setLineWeight)>(),
+     KyDbCategory::kGeneral, 3},
+    {L"Transparency",
+     kydbiAccess<kydbiGetter<Layer, const KyCmTransparency&>(&Layer::transparency),
+                 kydbiSetter<Layer, const KyCmTransparency&>(&Layer::setTransparency)>(),
+     KyDbCategory::kGeneral, 4},
+    {L"PlotStyleName",
+     kydbiAccess<kydbiGetter<Layer, const KyString&>(&Layer::plotStyleName),
+                 kydbiSetter<Layer, const wchar_t*>(&Layer::setPlotStyleName)>(),
+     KyDbCategory::kGeneral, 5, L"/PlotStyleNameDictionaryId/Items"},
+    {L"IsOff", kydbiAccess<&Layer::isOff, &Layer::setIsOff>(), KyDbCategory::kGeneral, 6},
+    {L"IsFrozen", kydbiAccess<&Layer::isFrozen, &Layer::setIsFrozen>(), KyDbCategory::kGeneral, 7},
+    {L"IsLocked", kydbiAccess<&Layer::isLocked, &Layer::setIsLocked>(), KyDbCategory::kGeneral, 8},
+    {L"IsPlottable", kydbiAccess<&Layer::isPlottable, &Layer::setIsPlottable>(),
+     KyDbCategory::kGeneral, 9},
+    {L"IsFrozenInNewViewports",
+     kydbiAccess<&Layer::isFrozenInNewViewports, &Layer::setIsFrozenInNewViewports>(),
+     KyDbCategory::kGeneral, 10},
+    {L"Description", kydbiAccess<&Layer::description, &Layer::setDescription>(),
+     KyDbCategory::kGeneral, 11},
+};
+
+bool isLayerColor(const KyCmColor& color) {
+    return color.isByACI() || color.isByColor();
+}
+
+bool isLayerWeight(KyDb::LineWeight weight) {
+    return KyDbRecordReference::isStandardWeight(weight) && weight != KyDb::kLnWtByLayer &&
+           weight != KyDb::kLnWtByBlock;
+}
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbLayerTableRecord, KyDbSymbolTableRecord, kLayerRows)
 
 KyDbLayerTableRecord::KyDbLayerTableRecord()
     : m_transparency(255), m_plotStyleName(KyDbStandardContent::kNormalPlotStyle) {
@@ -36,7 +87,7 @@ Kyro::ErrorStatus KyDbLayerTableRecord::setColor(const KyCmColor& color) {
     if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
         return status;
     }
-    if (!color.isByACI() && !color.isByColor()) {
+    if (!isLayerColor(color)) {
         return Kyro::eInvalidInput;
     }
     if (color != m_color) {
@@ -86,8 +137,7 @@ Kyro::ErrorStatus KyDbLayerTableRecord::setLineWeight(KyDb::LineWeight weight) {
     if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
         return status;
     }
-    if (!KyDbRecordReference::isStandardWeight(weight) || weight == KyDb::kLnWtByLayer ||
-        weight == KyDb::kLnWtByBlock) {
+    if (!isLayerWeight(weight)) {
         return Kyro::eInvalidInput;
     }
     if (weight != m_lineWeight) {
@@ -136,6 +186,244 @@ Kyro::ErrorStatus KyDbLayerTableRecord::setDescription(const wchar_t* descriptio
     return Kyro::eOk;
 }
 
+// ---- Viewport overrides
+
+Kyro::ErrorStatus KyDbLayerTableRecord::checkViewport(KyDbObjectId viewportId) const {
+    if (viewportId.isNull()) {
+        return Kyro::eNullObjectId;
+    }
+    if (!KyRxClass::isDerivedFrom(viewportId.objectClass(), KyDbViewport::desc())) {
+        return Kyro::eNotThatKindOfClass;
+    }
+    if (isDatabaseResident() && viewportId.database() != database()) {
+        return Kyro::eWrongDatabase;
+    }
+    return Kyro::eOk;
+}
+
+const KyDbLayerTableRecord::ViewportOverride* KyDbLayerTableRecord::findOverride(
+    KyDbObjectId viewportId, unsigned bit) const {
+    for (const ViewportOverride& entry : m_overrides) {
+        if (entry.viewport == viewportId) {
+            return (entry.mask & bit) != 0 ? &entry : nullptr;
+        }
+    }
+    return nullptr;
+}
+
+template <typename Differs, typename Assign>
+Kyro::ErrorStatus KyDbLayerTableRecord::setOverride(KyDbObjectId viewportId, unsigned bit,
+                                                    Differs differs, Assign assign) {
+    auto it = std::find_if(
+        m_overrides.begin(), m_overrides.end(),
+        [viewportId](const ViewportOverride& entry) { return entry.viewport == viewportId; });
+    if (it != m_overrides.end() && (it->mask & bit) != 0 && !differs(*it)) {
+        return Kyro::eOk;
+    }
+    assertWriteEnabled();
+    if (it == m_overrides.end()) {
+        m_overrides.emplace_back();
+        it = m_overrides.end() - 1;
+        it->viewport = viewportId;
+    }
+    it->mask |= bit;
+    assign(*it);
+    return Kyro::eOk;
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::removeOverride(KyDbObjectId viewportId, unsigned bits) {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    auto it = std::find_if(
+        m_overrides.begin(), m_overrides.end(),
+        [viewportId](const ViewportOverride& entry) { return entry.viewport == viewportId; });
+    if (it == m_overrides.end() || (it->mask & bits) == 0) {
+        return Kyro::eOk;
+    }
+    assertWriteEnabled();
+    it->mask &= ~bits;
+    if (it->mask == 0) {
+        m_overrides.erase(it);
+    }
+    return Kyro::eOk;
+}
+
+KyCmColor KyDbLayerTableRecord::color(KyDbObjectId viewportId, bool& overridden) const {
+    const ViewportOverride* entry = findOverride(viewportId, ViewportOverride::kColor);
+    overridden = entry != nullptr;
+    return entry != nullptr ? entry->color : m_color;
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::setColor(const KyCmColor& color, KyDbObjectId viewportId) {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (const Kyro::ErrorStatus status = checkViewport(viewportId); status != Kyro::eOk) {
+        return status;
+    }
+    if (!isLayerColor(color)) {
+        return Kyro::eInvalidInput;
+    }
+    return setOverride(
+        viewportId, ViewportOverride::kColor,
+        [&color](const ViewportOverride& entry) { return entry.color != color; },
+        [&color](ViewportOverride& entry) { entry.color = color; });
+}
+
+KyDbObjectId KyDbLayerTableRecord::linetypeObjectId(KyDbObjectId viewportId,
+                                                    bool& overridden) const {
+    const ViewportOverride* entry = findOverride(viewportId, ViewportOverride::kLinetype);
+    overridden = entry != nullptr;
+    return entry != nullptr ? entry->linetype : m_linetype;
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::setLinetypeObjectId(KyDbObjectId linetypeId,
+                                                            KyDbObjectId viewportId) {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (const Kyro::ErrorStatus status = checkViewport(viewportId); status != Kyro::eOk) {
+        return status;
+    }
+    if (const Kyro::ErrorStatus status =
+            KyDbRecordReference::check(this, linetypeId, KyDbLinetypeTableRecord::desc());
+        status != Kyro::eOk) {
+        return status;
+    }
+    return setOverride(
+        viewportId, ViewportOverride::kLinetype,
+        [linetypeId](const ViewportOverride& entry) { return entry.linetype != linetypeId; },
+        [linetypeId](ViewportOverride& entry) { entry.linetype = linetypeId; });
+}
+
+KyDb::LineWeight KyDbLayerTableRecord::lineWeight(KyDbObjectId viewportId, bool& overridden) const {
+    const ViewportOverride* entry = findOverride(viewportId, ViewportOverride::kLineWeight);
+    overridden = entry != nullptr;
+    return entry != nullptr ? entry->lineWeight : m_lineWeight;
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::setLineWeight(KyDb::LineWeight weight,
+                                                      KyDbObjectId viewportId) {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (const Kyro::ErrorStatus status = checkViewport(viewportId); status != Kyro::eOk) {
+        return status;
+    }
+    if (!isLayerWeight(weight)) {
+        return Kyro::eInvalidInput;
+    }
+    return setOverride(
+        viewportId, ViewportOverride::kLineWeight,
+        [weight](const ViewportOverride& entry) { return entry.lineWeight != weight; },
+        [weight](ViewportOverride& entry) { entry.lineWeight = weight; });
+}
+
+KyCmTransparency KyDbLayerTableRecord::transparency(KyDbObjectId viewportId,
+                                                    bool& overridden) const {
+    const ViewportOverride* entry = findOverride(viewportId, ViewportOverride::kTransparency);
+    overridden = entry != nullptr;
+    return entry != nullptr ? entry->transparency : m_transparency;
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::setTransparency(const KyCmTransparency& transparency,
+                                                        KyDbObjectId viewportId) {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (const Kyro::ErrorStatus status = checkViewport(viewportId); status != Kyro::eOk) {
+        return status;
+    }
+    if (!transparency.isByAlpha()) {
+        return Kyro::eInvalidInput;
+    }
+    return setOverride(
+        viewportId, ViewportOverride::kTransparency,
+        [&transparency](const ViewportOverride& entry) {
+            return entry.transparency != transparency;
+        },
+        [&transparency](ViewportOverride& entry) { entry.transparency = transparency; });
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::plotStyleName(KyDbObjectId viewportId, KyString& name,
+                                                      bool& overridden) const {
+    const ViewportOverride* entry = findOverride(viewportId, ViewportOverride::kPlotStyle);
+    overridden = entry != nullptr;
+    name = entry != nullptr ? entry->plotStyle : m_plotStyleName;
+    return Kyro::eOk;
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::setPlotStyleName(const wchar_t* name,
+                                                         KyDbObjectId viewportId) {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (const Kyro::ErrorStatus status = checkViewport(viewportId); status != Kyro::eOk) {
+        return status;
+    }
+    if (name == nullptr || name[0] == L'\0') {
+        return Kyro::eInvalidInput;
+    }
+    return setOverride(
+        viewportId, ViewportOverride::kPlotStyle,
+        [name](const ViewportOverride& entry) { return entry.plotStyle.compare(name) != 0; },
+        [name](ViewportOverride& entry) { entry.plotStyle = name; });
+}
+
+bool KyDbLayerTableRecord::hasOverrides(KyDbObjectId viewportId) const {
+    return std::any_of(m_overrides.begin(), m_overrides.end(),
+                       [viewportId](const ViewportOverride& entry) {
+                           return entry.viewport == viewportId && entry.mask != 0;
+                       });
+}
+
+void KyDbLayerTableRecord::getOverriddenViewports(KyArray<KyDbObjectId>& viewportIds) const {
+    viewportIds.setLogicalLength(0);
+    for (const ViewportOverride& entry : m_overrides) {
+        viewportIds.append(entry.viewport);
+    }
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::removeColorOverride(KyDbObjectId viewportId) {
+    return removeOverride(viewportId, ViewportOverride::kColor);
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::removeLinetypeOverride(KyDbObjectId viewportId) {
+    return removeOverride(viewportId, ViewportOverride::kLinetype);
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::removeLineWeightOverride(KyDbObjectId viewportId) {
+    return removeOverride(viewportId, ViewportOverride::kLineWeight);
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::removeTransparencyOverride(KyDbObjectId viewportId) {
+    return removeOverride(viewportId, ViewportOverride::kTransparency);
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::removePlotStyleOverride(KyDbObjectId viewportId) {
+    return removeOverride(viewportId, ViewportOverride::kPlotStyle);
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::removeViewportOverrides(KyDbObjectId viewportId) {
+    return removeOverride(viewportId, ~0u);
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::removeAllOverrides() {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (!m_overrides.empty()) {
+        assertWriteEnabled();
+        m_overrides.clear();
+    }
+    return Kyro::eOk;
+}
+
+Kyro::ErrorStatus KyDbLayerTableRecord::setXrefOverrides(const KyStringArray& propertyNames) {
+    return setMember(m_xrefOverrides, propertyNames);
+}
+
 Kyro::ErrorStatus KyDbLayerTableRecord::subCheckRename(const wchar_t* newName) const {
     if (isLayerZero()) {
         return Kyro::eCannotBeRenamed;
@@ -171,6 +459,17 @@ void KyDbLayerTableRecord::subSaveState(KyDbStateFiler& filer) const {
     filer.write(m_locked);
     filer.write(m_plottable);
     filer.write(m_frozenInNewViewports);
+    filer.write(static_cast<int>(m_overrides.size()));
+    for (const ViewportOverride& entry : m_overrides) {
+        filer.write(entry.viewport);
+        filer.write(entry.mask);
+        filer.write(entry.color);
+        filer.write(entry.linetype);
+        filer.write(entry.lineWeight);
+        filer.write(entry.transparency);
+        filer.writeString(entry.plotStyle);
+    }
+    filer.write(m_xrefOverrides);
 }
 
 Kyro::ErrorStatus KyDbLayerTableRecord::subRestoreState(KyDbStateFiler& filer) {
@@ -189,5 +488,20 @@ Kyro::ErrorStatus KyDbLayerTableRecord::subRestoreState(KyDbStateFiler& filer) {
     filer.read(m_locked);
     filer.read(m_plottable);
     filer.read(m_frozenInNewViewports);
+    int count = 0;
+    filer.read(count);
+    m_overrides.clear();
+    for (int i = 0; i < count && filer.status() == Kyro::eOk; ++i) {
+        ViewportOverride entry;
+        filer.read(entry.viewport);
+        filer.read(entry.mask);
+        filer.read(entry.color);
+        filer.read(entry.linetype);
+        filer.read(entry.lineWeight);
+        filer.read(entry.transparency);
+        filer.read(entry.plotStyle);
+        m_overrides.push_back(entry);
+    }
+    filer.read(m_xrefOverrides);
     return filer.status();
 }

@@ -5,13 +5,32 @@
 // Every setter needs a write-open (eWasNotOpenForWrite), answers eOk without
 // a change for the value the layer has, and eInvalidInput for a value a layer
 // can't take.
+//
+// Viewport overrides. In a paper space viewport a layer can show another
+// colour, linetype, lineweight, transparency or plot style than its own. The
+// forms with a viewport id read and write them; the id is that of the
+// viewport entity (KyDbViewport) of the same database (eNullObjectId,
+// eNotThatKindOfClass, eWrongDatabase). A read answers the override and
+// `overridden` true, or the layer's own value and false. An override takes
+// the values the layer's own setter takes, and stays until it is removed,
+// also when it equals the layer's own value. Overrides are part of the
+// layer's state: changing them is a change of the layer, with its undo and
+// its notifications.
+//
+// External reference overrides. A layer of an external reference can have
+// properties that the host drawing changed; the layer keeps the names of
+// those properties (the reflected names: "Color", "IsOff" ...), as a reader
+// found them (KyXRefLayerPropertyOverride reads them).
 #pragma once
+
+#include <vector>
 
 #include "KyPlatformExport.h"
 #include "db/KyCmColor.h"
 #include "db/KyCmTransparency.h"
 #include "db/KyDbEnums.h"
 #include "db/KyDbSymbolTableRecord.h"
+#include "rx/KyRxValue.h"
 
 class KYPLATFORM_API KyDbLayerTableRecord : public KyDbSymbolTableRecord {
 public:
@@ -55,6 +74,47 @@ public:
     const KyString& description() const { return m_description; }
     Kyro::ErrorStatus setDescription(const wchar_t* description);
 
+    // ---- Viewport overrides
+
+    KyCmColor color(KyDbObjectId viewportId, bool& overridden) const;
+    Kyro::ErrorStatus setColor(const KyCmColor& color, KyDbObjectId viewportId);
+    KyDbObjectId linetypeObjectId(KyDbObjectId viewportId, bool& overridden) const;
+    Kyro::ErrorStatus setLinetypeObjectId(KyDbObjectId linetypeId, KyDbObjectId viewportId);
+    KyDb::LineWeight lineWeight(KyDbObjectId viewportId, bool& overridden) const;
+    Kyro::ErrorStatus setLineWeight(KyDb::LineWeight weight, KyDbObjectId viewportId);
+    KyCmTransparency transparency(KyDbObjectId viewportId, bool& overridden) const;
+    Kyro::ErrorStatus setTransparency(const KyCmTransparency& transparency,
+                                      KyDbObjectId viewportId);
+    // eOk; the name and the flag as the other reads give them.
+    Kyro::ErrorStatus plotStyleName(KyDbObjectId viewportId, KyString& name,
+                                    bool& overridden) const;
+    Kyro::ErrorStatus setPlotStyleName(const wchar_t* name, KyDbObjectId viewportId);
+
+    // True when the layer has any override in the viewport.
+    bool hasOverrides(KyDbObjectId viewportId) const;
+    // True when the layer has an override in any viewport.
+    bool hasViewportOverrides() const { return !m_overrides.empty(); }
+    // The viewports in which the layer has overrides, in the order they got
+    // their first one.
+    void getOverriddenViewports(KyArray<KyDbObjectId>& viewportIds) const;
+
+    // Removing an override that is not there changes nothing and answers eOk.
+    Kyro::ErrorStatus removeColorOverride(KyDbObjectId viewportId);
+    Kyro::ErrorStatus removeLinetypeOverride(KyDbObjectId viewportId);
+    Kyro::ErrorStatus removeLineWeightOverride(KyDbObjectId viewportId);
+    Kyro::ErrorStatus removeTransparencyOverride(KyDbObjectId viewportId);
+    Kyro::ErrorStatus removePlotStyleOverride(KyDbObjectId viewportId);
+    // Every override of the layer in the viewport.
+    Kyro::ErrorStatus removeViewportOverrides(KyDbObjectId viewportId);
+    // Every override of the layer in every viewport.
+    Kyro::ErrorStatus removeAllOverrides();
+
+    // ---- External reference overrides
+
+    // The names of the properties overridden in the host drawing.
+    const KyStringArray& xrefOverrides() const { return m_xrefOverrides; }
+    Kyro::ErrorStatus setXrefOverrides(const KyStringArray& propertyNames);
+
 protected:
     Kyro::ErrorStatus subCheckRename(const wchar_t* newName) const override;
     Kyro::ErrorStatus subErase(bool erasing) override;
@@ -63,8 +123,36 @@ protected:
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
 
 private:
+    // The overrides of one viewport; `mask` tells which members hold one.
+    struct ViewportOverride {
+        enum Bit : unsigned {
+            kColor = 0x1,
+            kLinetype = 0x2,
+            kLineWeight = 0x4,
+            kTransparency = 0x8,
+            kPlotStyle = 0x10,
+        };
+        KyDbObjectId viewport;
+        unsigned mask = 0;
+        KyCmColor color;
+        KyDbObjectId linetype;
+        KyDb::LineWeight lineWeight = KyDb::kLnWtByLwDefault;
+        KyCmTransparency transparency;
+        KyString plotStyle;
+    };
+
     bool isLayerZero() const;
     Kyro::ErrorStatus setFlag(bool& flag, bool value);
+    // The checks of a viewport id given to an override.
+    Kyro::ErrorStatus checkViewport(KyDbObjectId viewportId) const;
+    // The override of the viewport when it holds `bit`, null otherwise.
+    const ViewportOverride* findOverride(KyDbObjectId viewportId, unsigned bit) const;
+    // Sets one override: `differs` tells whether the value differs from the
+    // one held, `assign` stores it.
+    template <typename Differs, typename Assign>
+    Kyro::ErrorStatus setOverride(KyDbObjectId viewportId, unsigned bit, Differs differs,
+                                  Assign assign);
+    Kyro::ErrorStatus removeOverride(KyDbObjectId viewportId, unsigned bits);
 
     KyCmColor m_color;
     KyDbObjectId m_linetype;
@@ -77,4 +165,6 @@ private:
     bool m_locked = false;
     bool m_plottable = true;
     bool m_frozenInNewViewports = false;
+    std::vector<ViewportOverride> m_overrides;
+    KyStringArray m_xrefOverrides;
 };

@@ -5,7 +5,19 @@
 #include "db/KyDbRecordReference.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbLayout, KyDbPlotSettings)
+namespace {
+
+const KyDbPropertyRow kLayoutRows[] = {
+    {L"Name", kydbiAccess<&KyDbLayout::layoutName, &KyDbLayout::setLayoutName>(),
+     KyDbCategory::kGeneral, 0},
+    {L"TabOrder", kydbiAccess<&KyDbLayout::tabOrder, &KyDbLayout::setTabOrder>(),
+     KyDbCategory::kGeneral, 1},
+    {L"BlockTableRecordId", kydbiAccess<&KyDbLayout::getBlockTableRecordId>()},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbLayout, KyDbPlotSettings, kLayoutRows)
 
 KyDbLayout::KyDbLayout() = default;
 

@@ -6,7 +6,20 @@
 #include "db/KyDbStandardContent.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbLinetypeTableRecord, KyDbSymbolTableRecord)
+namespace {
+
+const KyDbPropertyRow kLinetypeTableRecordRows[] = {
+    {L"Description",
+     kydbiAccess<&KyDbLinetypeTableRecord::comments, &KyDbLinetypeTableRecord::setComments>(),
+     KyDbCategory::kGeneral, 1},
+    {L"PatternLength", kydbiAccess<&KyDbLinetypeTableRecord::patternLength>(),
+     KyDbCategory::kGeneral, 2},
+    {L"NumDashes", kydbiAccess<&KyDbLinetypeTableRecord::numDashes>(), KyDbCategory::kGeneral, 3},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbLinetypeTableRecord, KyDbSymbolTableRecord, kLinetypeTableRecordRows)
 
 KyDbLinetypeTableRecord::KyDbLinetypeTableRecord() = default;
 

@@ -5,7 +5,19 @@
 #include "db/KyDbStateFiler.h"
 #include "db/KyDbTextStyleTableRecord.h"
 
-KYDB_DEFINE_MEMBERS(KyDbMLeaderStyle, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kMLeaderStyleRows[] = {
+    {L"Name", kydbiAccess<&KyDbMLeaderStyle::name, &KyDbMLeaderStyle::setName>(),
+     KyDbCategory::kGeneral, 0},
+    {L"TextStyleId",
+     kydbiAccess<&KyDbMLeaderStyle::textStyleId, &KyDbMLeaderStyle::setTextStyleId>(),
+     KyDbCategory::kGeneral, 1, L"/TextStyleTableId/Items"},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbMLeaderStyle, KyDbObject, kMLeaderStyleRows)
 
 KyDbMLeaderStyle::KyDbMLeaderStyle() = default;
 

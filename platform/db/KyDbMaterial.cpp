@@ -3,7 +3,18 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbMaterial, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kMaterialRows[] = {
+    {L"Name", kydbiAccess<&KyDbMaterial::name, &KyDbMaterial::setName>(), KyDbCategory::kGeneral,
+     0},
+    {L"Description", kydbiAccess<&KyDbMaterial::description, &KyDbMaterial::setDescription>(),
+     KyDbCategory::kGeneral, 1},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbMaterial, KyDbObject, kMaterialRows)
 
 KyDbMaterial::KyDbMaterial() = default;
 

@@ -1,9 +1,22 @@
 #include "db/KyDbModelDocViewStyle.h"
 
+#include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 #include "rx/KyRxClass.h"
 
-KYRX_DEFINE_MEMBERS(KyDbModelDocViewStyle, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kModelDocViewStyleRows[] = {
+    {L"Name", kydbiAccess<&KyDbModelDocViewStyle::name, &KyDbModelDocViewStyle::setName>(),
+     KyDbCategory::kGeneral, 0},
+    {L"Description",
+     kydbiAccess<&KyDbModelDocViewStyle::description, &KyDbModelDocViewStyle::setDescription>(),
+     KyDbCategory::kGeneral, 1},
+};
+
+}  // namespace
+
+KYDB_DEFINE_BASE_CLASS(KyDbModelDocViewStyle, KyDbObject, kModelDocViewStyleRows)
 
 KyDbModelDocViewStyle::KyDbModelDocViewStyle() = default;
 

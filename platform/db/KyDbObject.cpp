@@ -1,12 +1,43 @@
 #include "db/KyDbObject.h"
 
+#include "db/KyDbClassSupport.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbObjectAccess.h"
 #include "db/KyDbStateFiler.h"
 #include "db/KyDbUndoController.h"
 #include "rx/KyRxClass.h"
+#include "rx/KyRxStandardAttributes.h"
 
-KYRX_DEFINE_MEMBERS(KyDbObject, KyRxObject)
+namespace {
+
+Kyro::ErrorStatus getClassName(const KyRxObject* object, KyRxValue& value) {
+    const KyDbObject* dbObject = kyrxCast<KyDbObject>(object);
+    if (dbObject == nullptr) {
+        return Kyro::eNotThatKindOfClass;
+    }
+    value = KyRxValue(dbObject->reflectedClassName());
+    return Kyro::eOk;
+}
+
+Kyro::ErrorStatus getLocalizedName(const KyRxObject* object, KyRxValue& value) {
+    const KyDbObject* dbObject = kyrxCast<KyDbObject>(object);
+    if (dbObject == nullptr) {
+        return Kyro::eNotThatKindOfClass;
+    }
+    value = KyRxValue(dbObject->localizedClassName());
+    return Kyro::eOk;
+}
+
+// What every object shows: the names of its kind, which need no open, as a
+// selection groups objects by them.
+const KyDbPropertyRow kObjectRows[] = {
+    {L"ClassName", kydbiReadOnly<KyString>(&getClassName)},
+    {L"LocalizedName", kydbiReadOnly<KyString>(&getLocalizedName)},
+};
+
+}  // namespace
+
+KYDB_DEFINE_BASE_CLASS(KyDbObject, KyRxObject, kObjectRows)
 
 namespace {
 
@@ -102,6 +133,29 @@ bool KyDbObject::isNotifyEnabled() const {
 
 Kyro::ErrorStatus KyDbObject::checkWritable() const {
     return isWriteEnabled() ? Kyro::eOk : Kyro::eWasNotOpenForWrite;
+}
+
+Kyro::ErrorStatus KyDbObject::checkCanOwn(const KyDbObject* child) const {
+    if (!isDatabaseResident()) {
+        return Kyro::eNotInDatabase;
+    }
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (child == nullptr) {
+        return Kyro::eNullObjectPointer;
+    }
+    return child->isDatabaseResident() ? Kyro::eAlreadyInDb : Kyro::eOk;
+}
+
+Kyro::ErrorStatus KyDbObject::appendOwned(KyDbObject* child, KyDbHandle handle,
+                                          KyDbObjectId& newId) {
+    if (const Kyro::ErrorStatus status = KyDbObjectAccess::checkHandle(database(), handle);
+        status != Kyro::eOk) {
+        return status;
+    }
+    assertWriteEnabled();
+    return KyDbObjectAccess::append(database(), child, objectId(), handle, newId);
 }
 
 Kyro::ErrorStatus KyDbObject::assertWriteEnabled() {
@@ -313,6 +367,15 @@ Kyro::ErrorStatus KyDbObject::subErase(bool) {
 void KyDbObject::subErasedChanged(bool) {}
 
 void KyDbObject::subAppended(KyDbDatabase*) {}
+
+KyString KyDbObject::subReflectedClassName() const {
+    return KyString();
+}
+
+KyString KyDbObject::localizedClassName() const {
+    KyString name = reflectedClassName();
+    return name.isEmpty() ? KyRxLocalizedNameAttribute::getLocalizedName(isA()) : name;
+}
 
 void KyDbObject::cancelled(const KyDbObject*) {}
 void KyDbObject::copied(const KyDbObject*, const KyDbObject*) {}

@@ -48,6 +48,7 @@
 
 #include "KyPlatformExport.h"
 #include "base/KyArray.h"
+#include "base/KyString.h"
 #include "base/KyroErrorStatus.h"
 #include "db/KyDbEnums.h"
 #include "db/KyDbGuid.h"
@@ -111,6 +112,15 @@ public:
     // subGetClassID. By default a stable id made from the class name.
     Kyro::ErrorStatus getClassID(KyGuid* classId) const;
 
+    // The name of the object's kind when its runtime class does not tell it
+    // (an object of a kind the platform does not model keeps the name its
+    // file gave it); empty for every other object. Reflected as "ClassName".
+    KyString reflectedClassName() const { return subReflectedClassName(); }
+    // The kind of the object as a user reads it: the local name of its class,
+    // or its reflected class name when it has one. Reflected as
+    // "LocalizedName".
+    KyString localizedClassName() const;
+
     // Transient reactors. The object must be open (in any mode, or inside a
     // notification): eInvalidOpenState otherwise. A reactor stands at most
     // once on an object; removing an absent one answers eInvalidInput.
@@ -162,12 +172,20 @@ protected:
     // the moment to take the database's defaults.
     virtual void subAppended(KyDbDatabase* database);
     virtual Kyro::ErrorStatus subGetClassID(KyGuid* classId) const;
+    virtual KyString subReflectedClassName() const;
 
     // For a setter: eOk when the object is write-enabled (without marking a
     // change), eWasNotOpenForWrite otherwise. A setter checks this first,
     // answers eOk on an equal value, and calls assertWriteEnabled before
     // changing anything.
     Kyro::ErrorStatus checkWritable() const;
+    // The checks an owner makes before it takes `child` in: the owner lives in
+    // a database and is open for write; `child` exists and is in no database.
+    Kyro::ErrorStatus checkCanOwn(const KyDbObject* child) const;
+    // Puts `child` into the owner's database, owned by it, under `handle`
+    // (null: a new one) once the handle is checked. The caller keeps the new
+    // id and then announces the append.
+    Kyro::ErrorStatus appendOwned(KyDbObject* child, KyDbHandle handle, KyDbObjectId& newId);
     // The common setter: needs a write-open, changes nothing for an equal
     // value, announces the change before making it.
     template <typename T>

@@ -221,6 +221,12 @@ Kyro::ErrorStatus KyDbObjectAccess::checkHandle(const KyDbDatabase* database, Ky
                : Kyro::eHandleInUse;
 }
 
+void KyDbObjectAccess::makeHandleProvisional(KyDbObject* object) {
+    if (object->m_stub != nullptr && object->m_stub->database != nullptr) {
+        object->m_stub->database->m_provisional.push_back(object->m_stub);
+    }
+}
+
 void KyDbObjectAccess::announceAppend(KyDbObject* object) {
     KyDbDatabase* database = object->database();
     tellDatabaseReactors(database, [database, object](KyDbDatabaseReactor* reactor) {

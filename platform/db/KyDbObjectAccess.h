@@ -67,6 +67,10 @@ public:
     static Kyro::ErrorStatus append(KyDbDatabase* database, KyDbObject* object, KyDbObjectId owner,
                                     KyDbHandle handle, KyDbObjectId& id);
     static void announceAppend(KyDbObject* object);
+    // Marks the handle of an appended object as provisional: a handle that a
+    // reader gives another object later takes it over (an object whose
+    // handle a drawing file does not keep, an attribute).
+    static void makeHandleProvisional(KyDbObject* object);
     // eHandleInUse when an append with `handle` would fail on it (a
     // provisional holder gives way); eOk for the null handle.
     static Kyro::ErrorStatus checkHandle(const KyDbDatabase* database, KyDbHandle handle);

@@ -2,7 +2,15 @@
 
 #include "db/KyDbClassSupport.h"
 
-KYDB_DEFINE_MEMBERS(KyDbPlaceHolder, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kPlaceHolderRows[] = {
+    {L"Name", kydbiReadOnly<KyString>(&kydbiGetEntryName), KyDbCategory::kGeneral, 0},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbPlaceHolder, KyDbObject, kPlaceHolderRows)
 
 KyDbPlaceHolder::KyDbPlaceHolder() = default;
 

@@ -3,7 +3,17 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbPlotSettings, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kPlotSettingsRows[] = {
+    {L"Name",
+     kydbiAccess<&KyDbPlotSettings::plotSettingsName, &KyDbPlotSettings::setPlotSettingsName>(),
+     KyDbCategory::kGeneral, 0},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbPlotSettings, KyDbObject, kPlotSettingsRows)
 
 KyDbPlotSettings::KyDbPlotSettings() = default;
 

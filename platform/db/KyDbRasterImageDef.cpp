@@ -3,7 +3,22 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbRasterImageDef, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kRasterImageDefRows[] = {
+    {L"Name", kydbiReadOnly<KyString>(&kydbiGetEntryName), KyDbCategory::kGeneral, 0},
+    {L"SourceFileName",
+     kydbiAccess<&KyDbRasterImageDef::sourceFileName, &KyDbRasterImageDef::setSourceFileName>(),
+     KyDbCategory::kGeneral, 1},
+    {L"Width", kydbiAccess<&KyDbRasterImageDef::width, &KyDbRasterImageDef::setWidth>(),
+     KyDbCategory::kGeneral, 2},
+    {L"Height", kydbiAccess<&KyDbRasterImageDef::height, &KyDbRasterImageDef::setHeight>(),
+     KyDbCategory::kGeneral, 3},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbRasterImageDef, KyDbObject, kRasterImageDefRows)
 
 KyDbRasterImageDef::KyDbRasterImageDef() = default;
 

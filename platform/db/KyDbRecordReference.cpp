@@ -4,6 +4,8 @@
 #include <iterator>
 
 #include "db/KyDbDatabase.h"
+#include "db/KyDbDictionary.h"
+#include "db/KyDbHostApplicationServices.h"
 #include "db/KyDbObject.h"
 #include "db/KyDbSymbolTable.h"
 #include "rx/KyRxClass.h"
@@ -37,6 +39,40 @@ KyDbObjectId KyDbRecordReference::recordNamed(const KyDbDatabase* database, KyDb
         }
     }
     return id;
+}
+
+const KyDbDatabase* KyDbRecordReference::databaseOf(const KyDbObject* object) {
+    if (object != nullptr && object->database() != nullptr) {
+        return object->database();
+    }
+    return kydbHostApplicationServices()->workingDatabase();
+}
+
+Kyro::ErrorStatus KyDbRecordReference::findNamed(const KyDbObject* holder,
+                                                 KyDbObjectId (KyDbDatabase::*container)() const,
+                                                 const wchar_t* name, KyDbObjectId& id) {
+    if (name == nullptr || name[0] == L'\0') {
+        return Kyro::eInvalidInput;
+    }
+    const KyDbDatabase* database = databaseOf(holder);
+    if (database == nullptr) {
+        return Kyro::eNotInDatabase;
+    }
+    const KyDbObjectId containerId = (database->*container)();
+    if (!containerId.isValid()) {
+        return Kyro::eKeyNotFound;
+    }
+    KyDbObjectId found;
+    if (const auto* table = kyrxCast<KyDbSymbolTable>(containerId.stub()->object)) {
+        table->getAt(name, found);
+    } else if (const auto* dictionary = kyrxCast<KyDbDictionary>(containerId.stub()->object)) {
+        dictionary->getAt(name, found);
+    }
+    if (found.isNull()) {
+        return Kyro::eKeyNotFound;
+    }
+    id = found;
+    return Kyro::eOk;
 }
 
 bool KyDbRecordReference::isStandardWeight(int weight) {

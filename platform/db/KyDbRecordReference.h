@@ -25,6 +25,15 @@ public:
     // is not a table).
     static KyDbObjectId recordNamed(const KyDbDatabase* database, KyDbObjectId tableId,
                                     const wchar_t* name);
+    // The database an object works in: its own, or the working database for
+    // an object that is not in one. May be null.
+    static const KyDbDatabase* databaseOf(const KyDbObject* object);
+    // The record or entry `name` (any case) of the table or dictionary that
+    // `container` answers, in the database of `holder`: eInvalidInput for an
+    // empty name, eNotInDatabase without a database, eKeyNotFound.
+    static Kyro::ErrorStatus findNamed(const KyDbObject* holder,
+                                       KyDbObjectId (KyDbDatabase::*container)() const,
+                                       const wchar_t* name, KyDbObjectId& id);
     // One of the standard lineweights, or ByLayer, ByBlock, Default.
     static bool isStandardWeight(int weight);
 };

@@ -3,7 +3,19 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbRenderSettings, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kRenderSettingsRows[] = {
+    {L"Name", kydbiAccess<&KyDbRenderSettings::name, &KyDbRenderSettings::setName>(),
+     KyDbCategory::kGeneral, 0},
+    {L"OutputSize",
+     kydbiAccess<&KyDbRenderSettings::outputSize, &KyDbRenderSettings::setOutputSize>(),
+     KyDbCategory::kGeneral, 1},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbRenderSettings, KyDbObject, kRenderSettingsRows)
 
 KyDbRenderSettings::KyDbRenderSettings() : m_outputSize(L"640x480") {}
 

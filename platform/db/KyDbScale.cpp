@@ -3,7 +3,21 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbScale, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kScaleRows[] = {
+    {L"Name", kydbiAccess<&KyDbScale::scaleName, &KyDbScale::setScaleName>(),
+     KyDbCategory::kGeneral, 0},
+    {L"PaperUnits", kydbiAccess<&KyDbScale::paperUnits, &KyDbScale::setPaperUnits>(),
+     KyDbCategory::kGeneral, 1},
+    {L"DrawingUnits", kydbiAccess<&KyDbScale::drawingUnits, &KyDbScale::setDrawingUnits>(),
+     KyDbCategory::kGeneral, 2},
+    {L"Scale", kydbiAccess<&KyDbScale::scale>(), KyDbCategory::kGeneral, 3},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbScale, KyDbObject, kScaleRows)
 
 KyDbScale::KyDbScale() = default;
 

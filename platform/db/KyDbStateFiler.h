@@ -41,6 +41,30 @@ public:
         ++m_position;
         return true;
     }
+    // An array as its length and its elements.
+    template <typename T, typename R>
+    void writeArray(const KyArray<T, R>& values) {
+        write(values.length());
+        for (const T& value : values) {
+            write(value);
+        }
+    }
+    template <typename T, typename R>
+    bool readArray(KyArray<T, R>& values) {
+        int count = 0;
+        if (!read(count)) {
+            return false;
+        }
+        values.setLogicalLength(0);
+        for (int i = 0; i < count; ++i) {
+            T value{};
+            if (!read(value)) {
+                return false;
+            }
+            values.append(value);
+        }
+        return true;
+    }
     // The next value as it was written (null past the end).
     const KyRxValue* next() {
         return m_position < m_values.size() ? &m_values[m_position++] : nullptr;

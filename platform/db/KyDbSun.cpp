@@ -3,7 +3,21 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbSun, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kSunRows[] = {
+    {L"Name", kydbiReadOnly<KyString>(&kydbiGetEntryName), KyDbCategory::kGeneral, 0},
+    {L"IsOn", kydbiAccess<&KyDbSun::isOn, &KyDbSun::setOn>(), KyDbCategory::kGeneral, 1},
+    {L"Intensity", kydbiAccess<&KyDbSun::intensity, &KyDbSun::setIntensity>(),
+     KyDbCategory::kGeneral, 2},
+    {L"Color", kydbiAccess<&KyDbSun::sunColor, &KyDbSun::setSunColor>(), KyDbCategory::kGeneral, 3},
+    {L"ShadowType", kydbiAccess<&KyDbSun::shadowType, &KyDbSun::setShadowType>(),
+     KyDbCategory::kGeneral, 4},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbSun, KyDbObject, kSunRows)
 
 KyDbSun::KyDbSun() {
     m_color.setColorIndex(KyCmColor::kACIWhite);

@@ -1,14 +1,36 @@
 #include "db/KyDbSymbolTable.h"
 
+#include <memory>
+
+#include "db/KyDbClassSupport.h"
 #include "db/KyDbObjectAccess.h"
 #include "db/KyDbOpenObject.h"
 #include "db/KyDbSymbolTableIterator.h"
 #include "db/KyDbSymbolTableRecord.h"
 #include "rx/KyRxClass.h"
 
-KYRX_DEFINE_MEMBERS(KyDbSymbolTable, KyDbObject)
-
 namespace {
+
+// The records that are not erased, in table order.
+Kyro::ErrorStatus listRecords(const KyRxObject* object, KyDbIdList& ids) {
+    const KyDbSymbolTable* table = kyrxCast<KyDbSymbolTable>(object);
+    if (table == nullptr) {
+        return Kyro::eNotThatKindOfClass;
+    }
+    KyDbSymbolTableIterator* raw = nullptr;
+    table->newIterator(raw, true, true);
+    std::unique_ptr<KyDbSymbolTableIterator> it(raw);
+    for (; !it->done(); it->step(true, true)) {
+        KyDbObjectId id;
+        it->getRecordId(id);
+        ids.append(id);
+    }
+    return Kyro::eOk;
+}
+
+const KyDbPropertyRow kTableRows[] = {
+    {L"Items", {}, nullptr, 0, nullptr, &kydbiIdCollection<&listRecords>},
+};
 
 // The iterator of tables without one of their own.
 class KyDbPlainSymbolTableIterator : public KyDbSymbolTableIterator {
@@ -18,6 +40,8 @@ public:
 };
 
 }  // namespace
+
+KYDB_DEFINE_BASE_CLASS(KyDbSymbolTable, KyDbObject, kTableRows)
 
 KyDbSymbolTable::KyDbSymbolTable() = default;
 
@@ -42,20 +66,11 @@ Kyro::ErrorStatus KyDbSymbolTable::add(KyDbSymbolTableRecord* record) {
 
 Kyro::ErrorStatus KyDbSymbolTable::add(KyDbObjectId& id, KyDbSymbolTableRecord* record,
                                        KyDbHandle handle) {
-    if (!isDatabaseResident()) {
-        return Kyro::eNotInDatabase;
-    }
-    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+    if (const Kyro::ErrorStatus status = checkCanOwn(record); status != Kyro::eOk) {
         return status;
-    }
-    if (record == nullptr) {
-        return Kyro::eNullObjectPointer;
     }
     if (!record->isKindOf(recordClass())) {
         return Kyro::eNotThatKindOfClass;
-    }
-    if (record->isDatabaseResident()) {
-        return Kyro::eAlreadyInDb;
     }
     const wchar_t* name = record->name().kwszPtr();
     if (const Kyro::ErrorStatus status = KyDbNames::checkRecordName(name); status != Kyro::eOk) {
@@ -64,15 +79,8 @@ Kyro::ErrorStatus KyDbSymbolTable::add(KyDbObjectId& id, KyDbSymbolTableRecord* 
     if (!liveRecord(name).isNull()) {
         return Kyro::eDuplicateRecordName;
     }
-    if (const Kyro::ErrorStatus status = KyDbObjectAccess::checkHandle(database(), handle);
-        status != Kyro::eOk) {
-        return status;
-    }
-    assertWriteEnabled();
     KyDbObjectId newId;
-    const Kyro::ErrorStatus status =
-        KyDbObjectAccess::append(database(), record, objectId(), handle, newId);
-    if (status != Kyro::eOk) {
+    if (const Kyro::ErrorStatus status = appendOwned(record, handle, newId); status != Kyro::eOk) {
         return status;
     }
     m_records.append(newId);

@@ -2,13 +2,25 @@
 
 #include "db/KyDbBlockTable.h"
 #include "db/KyDbBlockTableRecord.h"
+#include "db/KyDbClassSupport.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbNames.h"
 #include "db/KyDbStateFiler.h"
 #include "db/KyDbSymbolTable.h"
 #include "rx/KyRxClass.h"
 
-KYRX_DEFINE_MEMBERS(KyDbSymbolTableRecord, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kRecordRows[] = {
+    {L"Name", kydbiAccess<&KyDbSymbolTableRecord::name, &KyDbSymbolTableRecord::setName>(),
+     KyDbCategory::kGeneral, 0},
+    {L"IsDependent", kydbiAccess<&KyDbSymbolTableRecord::isDependent>(), KyDbCategory::kGeneral,
+     90},
+};
+
+}  // namespace
+
+KYDB_DEFINE_BASE_CLASS(KyDbSymbolTableRecord, KyDbObject, kRecordRows)
 
 KyDbSymbolTableRecord::KyDbSymbolTableRecord() = default;
 

@@ -3,7 +3,18 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbTableStyle, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kTableStyleRows[] = {
+    {L"Name", kydbiAccess<&KyDbTableStyle::name, &KyDbTableStyle::setName>(),
+     KyDbCategory::kGeneral, 0},
+    {L"CellStyles", kydbiAccess<&KyDbTableStyle::cellStyles, &KyDbTableStyle::setCellStyles>(),
+     KyDbCategory::kGeneral, 1},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbTableStyle, KyDbObject, kTableStyleRows)
 
 KyDbTableStyle::KyDbTableStyle() {
     m_cellStyles.append(KyString(L"Title"));

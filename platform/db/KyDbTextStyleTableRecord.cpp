@@ -3,7 +3,31 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbTextStyleTableRecord, KyDbSymbolTableRecord)
+namespace {
+
+const KyDbPropertyRow kTextStyleTableRecordRows[] = {
+    {L"FileName",
+     kydbiAccess<&KyDbTextStyleTableRecord::fileName, &KyDbTextStyleTableRecord::setFileName>(),
+     KyDbCategory::kText, 1},
+    {L"BigFontFileName",
+     kydbiAccess<&KyDbTextStyleTableRecord::bigFontFileName,
+                 &KyDbTextStyleTableRecord::setBigFontFileName>(),
+     KyDbCategory::kText, 2},
+    {L"Height",
+     kydbiAccess<&KyDbTextStyleTableRecord::textSize, &KyDbTextStyleTableRecord::setTextSize>(),
+     KyDbCategory::kText, 3},
+    {L"WidthFactor",
+     kydbiAccess<&KyDbTextStyleTableRecord::xScale, &KyDbTextStyleTableRecord::setXScale>(),
+     KyDbCategory::kText, 4},
+    {L"ObliquingAngle",
+     kydbiAccess<&KyDbTextStyleTableRecord::obliquingAngle,
+                 &KyDbTextStyleTableRecord::setObliquingAngle>(),
+     KyDbCategory::kText, 5},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbTextStyleTableRecord, KyDbSymbolTableRecord, kTextStyleTableRecordRows)
 
 KyDbTextStyleTableRecord::KyDbTextStyleTableRecord() = default;
 

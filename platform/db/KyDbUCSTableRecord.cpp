@@ -3,7 +3,20 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbUCSTableRecord, KyDbSymbolTableRecord)
+namespace {
+
+const KyDbPropertyRow kUCSTableRecordRows[] = {
+    {L"Origin", kydbiAccess<&KyDbUCSTableRecord::origin, &KyDbUCSTableRecord::setOrigin>(),
+     KyDbCategory::kGeometry, 1},
+    {L"XAxis", kydbiAccess<&KyDbUCSTableRecord::xAxis, &KyDbUCSTableRecord::setXAxis>(),
+     KyDbCategory::kGeometry, 2},
+    {L"YAxis", kydbiAccess<&KyDbUCSTableRecord::yAxis, &KyDbUCSTableRecord::setYAxis>(),
+     KyDbCategory::kGeometry, 3},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbUCSTableRecord, KyDbSymbolTableRecord, kUCSTableRecordRows)
 
 KyDbUCSTableRecord::KyDbUCSTableRecord() = default;
 

@@ -3,7 +3,15 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbUnknownObject, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kUnknownObjectRows[] = {
+    {L"Name", kydbiReadOnly<KyString>(&kydbiGetEntryName), KyDbCategory::kGeneral, 0},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbUnknownObject, KyDbObject, kUnknownObjectRows)
 
 KyDbUnknownObject::KyDbUnknownObject() = default;
 
@@ -15,6 +23,10 @@ Kyro::ErrorStatus KyDbUnknownObject::setTypeName(const wchar_t* value) {
 
 Kyro::ErrorStatus KyDbUnknownObject::setData(const wchar_t* value) {
     return setMember(m_data, KyString(value));
+}
+
+KyString KyDbUnknownObject::subReflectedClassName() const {
+    return m_typeName;
 }
 
 void KyDbUnknownObject::subSaveState(KyDbStateFiler& filer) const {

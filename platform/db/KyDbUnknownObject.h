@@ -1,6 +1,7 @@
 // KyDbUnknownObject: an object of a kind the platform does not
 // model, kept whole: the name of its kind and its data as opaque text (the JSON
-// a reader found), so that a writer can put it back unchanged.
+// a reader found), so that a writer can put it back unchanged. Its
+// "ClassName" is the name of its kind.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -18,6 +19,7 @@ public:
     Kyro::ErrorStatus setData(const wchar_t* value);
 
 protected:
+    KyString subReflectedClassName() const override;
     void subSaveState(KyDbStateFiler& filer) const override;
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
 

@@ -3,7 +3,18 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbViewTableRecord, KyDbAbstractViewTableRecord)
+namespace {
+
+const KyDbPropertyRow kViewTableRecordRows[] = {
+    {L"IsPaperspaceView",
+     kydbiAccess<&KyDbViewTableRecord::isPaperspaceView,
+                 &KyDbViewTableRecord::setIsPaperspaceView>(),
+     KyDbCategory::kMisc, 1},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbViewTableRecord, KyDbAbstractViewTableRecord, kViewTableRecordRows)
 
 KyDbViewTableRecord::KyDbViewTableRecord() = default;
 

@@ -3,7 +3,17 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbViewportTableRecord, KyDbAbstractViewTableRecord)
+namespace {
+
+const KyDbPropertyRow kViewportTableRecordRows[] = {
+    {L"ViewCenter",
+     kydbiAccess<&KyDbViewportTableRecord::viewCenter, &KyDbViewportTableRecord::setViewCenter>(),
+     KyDbCategory::kGeometry, 6},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbViewportTableRecord, KyDbAbstractViewTableRecord, kViewportTableRecordRows)
 
 KyDbViewportTableRecord::KyDbViewportTableRecord() = default;
 

@@ -3,7 +3,21 @@
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbStateFiler.h"
 
-KYDB_DEFINE_MEMBERS(KyDbVisualStyle, KyDbObject)
+namespace {
+
+const KyDbPropertyRow kVisualStyleRows[] = {
+    {L"Name", kydbiAccess<&KyDbVisualStyle::name, &KyDbVisualStyle::setName>(),
+     KyDbCategory::kGeneral, 0},
+    {L"Type", kydbiAccess<&KyDbVisualStyle::type, &KyDbVisualStyle::setType>(),
+     KyDbCategory::kGeneral, 1},
+    {L"IsInternalUseOnly",
+     kydbiAccess<&KyDbVisualStyle::isInternalUseOnly, &KyDbVisualStyle::setInternalUseOnly>(),
+     KyDbCategory::kGeneral, 2},
+};
+
+}  // namespace
+
+KYDB_DEFINE_CLASS(KyDbVisualStyle, KyDbObject, kVisualStyleRows)
 
 KyDbVisualStyle::KyDbVisualStyle() = default;
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "db/KyDbBlockTableRecord.h"
 #include "db/KyDbSymbolTableIterator.h"
 #include "rx/KyRxClass.h"
 
@@ -36,7 +37,49 @@ void DatabaseSpy::headerSysVarChanged(const KyDbDatabase*, const wchar_t* name, 
 DbTest::DbTest() : db(new KyDbDatabase()) {}
 
 DbTest::~DbTest() {
+    for (const auto& [id, spy] : m_watched) {
+        KyDbObjectPointer<KyDbObject> object(id, KyDb::kForNotify, true);
+        if (object) {
+            object->removeReactor(spy);
+        }
+    }
     delete db;
+}
+
+KyDbObjectId DbTest::blockId(const wchar_t* name) const {
+    KyDbObjectPointer<KyDbSymbolTable> table(db->blockTableId(), KyDb::kForRead);
+    KyDbObjectId id;
+    table->getAt(name, id, true);
+    return id;
+}
+
+KyDbObjectId DbTest::addEntity(KyDbEntity* entity, const wchar_t* blockName) {
+    KyDbObjectPointer<KyDbBlockTableRecord> block(blockId(blockName), KyDb::kForWrite);
+    KyDbObjectId id;
+    if (!block || block->appendKyDbEntity(id, entity) != Kyro::eOk) {
+        delete entity;
+        return KyDbObjectId();
+    }
+    entity->close();
+    return id;
+}
+
+void DbTest::watch(KyDbObjectId id, KyDbObjectReactor* spy) {
+    KyDbObjectPointer<KyDbObject> object(id, KyDb::kForNotify, true);
+    if (object && object->addReactor(spy) == Kyro::eOk) {
+        m_watched.emplace_back(id, spy);
+    }
+}
+
+void DbTest::unwatch(KyDbObjectId id, KyDbObjectReactor* spy) {
+    for (auto it = m_watched.begin(); it != m_watched.end(); ++it) {
+        if (it->first == id && it->second == spy) {
+            KyDbObjectPointer<KyDbObject> object(id, KyDb::kForNotify, true);
+            object->removeReactor(spy);
+            m_watched.erase(it);
+            return;
+        }
+    }
 }
 
 KyDbObjectId DbTest::addLayer(const wchar_t* name) {

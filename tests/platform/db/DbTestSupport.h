@@ -7,11 +7,13 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "db/KyDbDatabase.h"
 #include "db/KyDbDatabaseReactor.h"
 #include "db/KyDbDictionary.h"
+#include "db/KyDbEntity.h"
 #include "db/KyDbLayerTable.h"
 #include "db/KyDbLayerTableRecord.h"
 #include "db/KyDbObjectPointer.h"
@@ -120,10 +122,21 @@ protected:
     Kyro::ErrorStatus setErased(KyDbObjectId id, bool erasing);
     // Renames a layer in one open.
     Kyro::ErrorStatus renameLayer(KyDbObjectId id, const wchar_t* name);
+    // The id of a block by name.
+    KyDbObjectId blockId(const wchar_t* name) const;
+    // Appends `entity` (new) to a block and closes it; its id, null on failure.
+    KyDbObjectId addEntity(KyDbEntity* entity, const wchar_t* blockName = L"*Model_Space");
+    // Logs the notifications of the object `id` into `log` through `spy`
+    // until unwatch; the fixture takes the spy off at its end.
+    void watch(KyDbObjectId id, KyDbObjectReactor* spy);
+    void unwatch(KyDbObjectId id, KyDbObjectReactor* spy);
     KyDbUndoController* undo() const { return db->undoController(); }
 
     KyDbDatabase* db;
     Log log;
+
+private:
+    std::vector<std::pair<KyDbObjectId, KyDbObjectReactor*>> m_watched;
 };
 
 }  // namespace dbtest

@@ -7,6 +7,7 @@
 
 #include "MemberTestSupport.h"
 #include "ge/KyGePoint3d.h"
+#include "rx/KyRxArrayValueIterator.h"
 
 namespace {
 
@@ -23,29 +24,6 @@ const KyRxProperty* shapeProperty(const wchar_t* name) {
 class NumberList : public KyRxObject {
 public:
     std::vector<int> numbers;
-};
-
-class NumberIterator : public KyRxValueIterator {
-public:
-    explicit NumberIterator(std::vector<int> numbers) : m_numbers(std::move(numbers)) {}
-    bool done() const override { return m_index >= m_numbers.size(); }
-    bool next() override {
-        if (!done()) {
-            ++m_index;
-        }
-        return done();
-    }
-    Kyro::ErrorStatus current(KyRxValue& value) const override {
-        if (done()) {
-            return Kyro::eInvalidIndex;
-        }
-        value = m_numbers[m_index];
-        return Kyro::eOk;
-    }
-
-private:
-    std::vector<int> m_numbers;
-    size_t m_index = 0;
 };
 
 // "Numbers" by position: reads and an iterator, no writes, no insertion.
@@ -65,7 +43,14 @@ protected:
     }
     KyRxValueIterator* subNewValueIterator(const KyRxObject* object) const override {
         const auto* list = dynamic_cast<const NumberList*>(object);
-        return list != nullptr ? new NumberIterator(list->numbers) : nullptr;
+        if (list == nullptr) {
+            return nullptr;
+        }
+        KyArray<int> numbers;
+        for (int number : list->numbers) {
+            numbers.append(number);
+        }
+        return new KyRxArrayValueIterator<int>(std::move(numbers));
     }
     Kyro::ErrorStatus subTryGetCount(const KyRxObject* object, int& count) const override {
         const auto* list = dynamic_cast<const NumberList*>(object);
