@@ -1,0 +1,149 @@
+#include "KyRefHost.h"
+
+#include "KyRefManualClock.h"
+#include "KyRefSysVarTable.h"
+#include "KyRefVariablesDictionary.h"
+
+namespace {
+
+template <typename Service, typename... Args>
+std::unique_ptr<Service> makeIf(bool wanted, Args&... args) {
+    return wanted ? std::make_unique<Service>(args...) : nullptr;
+}
+
+}  // namespace
+
+KyRefHost::KyRefHost(const KyRefHostOptions& options)
+    : m_sysVars(this),
+      m_clock(options.manualClock ? std::make_unique<KyRefManualClock>() : nullptr),
+      m_documents(std::make_unique<KyRefDocumentManager>(*this)),
+      m_editor(makeIf<KyRefEditor>(options.editor, *this)),
+      m_viewport(makeIf<KyRefViewportService>(options.viewportService, *this)),
+      m_visualStyle(makeIf<KyRefVisualStyleService>(options.visualStyleService, *this)),
+      m_selection(makeIf<KyRefSelectionService>(options.selectionService, *this)),
+      m_regeneration(makeIf<KyRefRegenerationService>(options.regenerationService)),
+      m_ucs(makeIf<KyRefUcsService>(options.ucsService, *this)),
+      m_layer(makeIf<KyRefLayerService>(options.layerService, *this)),
+      m_plot(makeIf<KyRefPlotService>(options.plotService, *this)),
+      m_render(makeIf<KyRefRenderService>(options.renderService, *this)),
+      m_color(makeIf<KyRefColorService>(options.colorService)),
+      m_scaleList(makeIf<KyRefScaleListService>(options.scaleListService)),
+      m_image(makeIf<KyRefImageService>(options.imageService)),
+      m_recentBlock(makeIf<KyRefRecentBlockService>(options.recentBlockService)),
+      m_counting(makeIf<KyRefCountingService>(options.countingService)),
+      m_variables(std::make_unique<KyRefVariablesDictionary>(*this)) {
+    KyRxVariablesDictionary::install(m_variables.get());
+}
+
+KyRefHost::~KyRefHost() {
+    m_documents->closeAll();
+    m_editor.reset();
+    m_documents->releaseClosedDocuments();
+    if (KyRxVariablesDictionary::get() == m_variables.get()) {
+        KyRxVariablesDictionary::install(nullptr);
+    }
+    m_variables.reset();
+}
+
+void KyRefHost::addReactor(KyDiHostReactor* reactor) {
+    m_events.add(reactor);
+}
+
+void KyRefHost::removeReactor(KyDiHostReactor* reactor) {
+    m_events.remove(reactor);
+}
+
+void KyRefHost::idle() {
+    if (m_editor != nullptr) {
+        m_editor->idle();
+    }
+    if (m_editor == nullptr || !m_editor->interpreter().isRunning()) {
+        m_documents->releaseClosedDocuments();
+    }
+}
+
+KyString KyRefHost::commandNames() const {
+    return m_editor != nullptr ? m_editor->commandNames() : KyString();
+}
+
+KyRefSysVarStatus KyRefHost::setVariable(const wchar_t* name, const resbuf& value, unsigned flags,
+                                         KyString* error) {
+    const KyRefSysVarRow* row = KyRefSysVarTable::find(name);
+    const bool tellNow = !isGatheringChanges() && row != nullptr;
+    if (tellNow) {
+        m_events.raiseSysVarWillChange(row->name);
+    }
+    beginChangeReport();
+    const KyRefSysVarStatus status = m_sysVars.set(name, value, flags, error);
+    raiseVariableChanges(endChangeReport());
+    if (tellNow && status != KyRefSysVarStatus::kOk) {
+        m_events.raiseSysVarChanged(row->name, false);
+    }
+    return status;
+}
+
+void KyRefHost::beginChangeReport() {
+    if (m_reportDepth++ == 0) {
+        m_reportStart = m_sysVars.snapshot();
+    }
+}
+
+std::vector<KyString> KyRefHost::endChangeReport() {
+    if (m_reportDepth == 0 || --m_reportDepth > 0) {
+        return {};
+    }
+    std::vector<KyString> changed = m_sysVars.changedSince(m_reportStart);
+    m_reportStart.clear();
+    return changed;
+}
+
+void KyRefHost::raiseVariableChanges(const std::vector<KyString>& names) {
+    bool layout = false;
+    bool ucs = false;
+    for (const KyString& name : names) {
+        m_events.raiseSysVarChanged(name, true);
+        layout = layout || name.compareNoCase(L"CTAB") == 0;
+        ucs = ucs || name.compareNoCase(L"UCSNAME") == 0;
+    }
+    if (layout) {
+        m_events.raiseLayoutChanged();
+    }
+    if (ucs) {
+        m_events.raiseUcsChanged();
+    }
+}
+
+void KyRefHost::drawingVariableWillChange(KyRefDocument& document, const wchar_t* name) {
+    if (isGatheringChanges() || &document != m_documents->current()) {
+        return;
+    }
+    m_headerWrite = true;
+    if (const KyRefSysVarRow* row = KyRefSysVarTable::find(name)) {
+        m_events.raiseSysVarWillChange(row->name);
+    }
+    beginChangeReport();
+}
+
+void KyRefHost::drawingVariableChanged(KyRefDocument&, const wchar_t*) {
+    if (!m_headerWrite || m_reportDepth != 1) {
+        return;
+    }
+    m_headerWrite = false;
+    raiseVariableChanges(endChangeReport());
+}
+
+void KyRefHost::documentClosing(KyRefDocument& document) {
+    if (m_editor == nullptr) {
+        return;
+    }
+    if (m_editor->interpreter().isWaiting() && &document == m_documents->current()) {
+        m_editor->interpreter().dropWaitingCommand();
+    }
+    m_editor->closeScopes(document);
+}
+
+void KyRefHost::currentDocumentChanged() {
+    if (m_editor != nullptr && m_editor->interpreter().isWaiting()) {
+        m_editor->interpreter().dropWaitingCommand();
+    }
+}

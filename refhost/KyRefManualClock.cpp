@@ -1,0 +1,21 @@
+#include "KyRefManualClock.h"
+
+#include "pal/KyPal.h"
+
+KyRefManualClock::KyRefManualClock() {
+    KyPal::SteadyClock::setSource(&KyRefManualClock::read, this);
+}
+
+KyRefManualClock::~KyRefManualClock() {
+    KyPal::SteadyClock::setSource(nullptr, nullptr);
+}
+
+void KyRefManualClock::advance(std::int64_t milliseconds) {
+    if (milliseconds > 0) {
+        m_now += milliseconds * 1000 * 1000;
+    }
+}
+
+std::int64_t KyRefManualClock::read(void* clock) {
+    return static_cast<const KyRefManualClock*>(clock)->m_now;
+}

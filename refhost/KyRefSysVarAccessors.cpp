@@ -1,0 +1,337 @@
+#include "KyRefSysVarAccessors.h"
+
+#include <memory>
+
+#include "KyRefColorText.h"
+#include "KyRefDocument.h"
+#include "KyRefDocumentManager.h"
+#include "KyRefHost.h"
+#include "KyRefReadAccess.h"
+#include "KyRefReservedWords.h"
+#include "KyRefSysVarStore.h"
+#include "KyRefTransparencyText.h"
+#include "db/KyDbBlockTableRecord.h"
+#include "db/KyDbDatabase.h"
+#include "db/KyDbDictionary.h"
+#include "db/KyDbDictionaryIterator.h"
+#include "db/KyDbLayerTableRecord.h"
+#include "db/KyDbLayout.h"
+#include "db/KyDbScale.h"
+#include "db/KyDbStandardContent.h"
+#include "db/KyDbSymbolTable.h"
+#include "rx/KyRxValue.h"
+
+namespace {
+
+using Status = KyRefSysVarStatus;
+using Access = KyRefSysVarAccess;
+
+// A write the database refused: no document lock, or a value it would not take.
+Status fromDatabase(Kyro::ErrorStatus status, KyString& error) {
+    if (status == Kyro::eOk) {
+        return Status::kOk;
+    }
+    if (status == Kyro::eLockViolation) {
+        error = L"The drawing is not locked for writing.";
+        return Status::kRefused;
+    }
+    error = L"The drawing refused the value.";
+    return Status::kInvalidValue;
+}
+
+KyString textOf(const resbuf& value) {
+    return KyString(value.resval.rstring).trim();
+}
+
+// ---- Current records and dictionary entries, by name
+
+struct CurrentItem {
+    const wchar_t* what;  // how a user calls the thing, for messages
+    KyDbObjectId (KyDbDatabase::*get)() const;
+    Kyro::ErrorStatus (KyDbDatabase::*set)(KyDbObjectId);
+    KyDbObjectId (KyDbDatabase::*container)() const;
+};
+
+// The name of `id` in `container`: a record's name, or a dictionary key.
+KyString itemName(KyDbObjectId container, KyDbObjectId id) {
+    if (id.isNull()) {
+        return KyString();
+    }
+    KyRefReadAccess<KyDbObject> owner(container);
+    if (!owner) {
+        return KyString();
+    }
+    if (kyrxCast<KyDbSymbolTable>(owner.object()) != nullptr) {
+        KyRefReadAccess<KyDbSymbolTableRecord> record(id, true);
+        return record ? record->name() : KyString();
+    }
+    KyString key;
+    if (const auto* dictionary = kyrxCast<KyDbDictionary>(owner.object())) {
+        dictionary->nameAt(id, key);
+    }
+    return key;
+}
+
+// The record or entry of `container` named `name` (not erased); null if none.
+KyDbObjectId itemNamed(KyDbObjectId container, const wchar_t* name) {
+    KyDbObjectId id;
+    KyRefReadAccess<KyDbObject> owner(container);
+    if (!owner) {
+        return id;
+    }
+    if (const auto* table = kyrxCast<KyDbSymbolTable>(owner.object())) {
+        table->getAt(name, id);
+    } else if (const auto* dictionary = kyrxCast<KyDbDictionary>(owner.object())) {
+        dictionary->getAt(name, id);
+    }
+    return id;
+}
+
+Status getCurrentItem(const Access& access, KyRefResbufPtr& out) {
+    const auto* item = static_cast<const CurrentItem*>(access.row.accessor->data);
+    KyDbDatabase* db = access.database;
+    out = KyRefResbuf::makeString(itemName((db->*item->container)(), (db->*item->get)()));
+    return Status::kOk;
+}
+
+Status setCurrentItem(const Access& access, const resbuf& value, KyString& error) {
+    const auto* item = static_cast<const CurrentItem*>(access.row.accessor->data);
+    KyDbDatabase* db = access.database;
+    const KyString name = textOf(value);
+    const KyDbObjectId id = itemNamed((db->*item->container)(), name);
+    if (id.isNull()) {
+        error.format(L"Cannot find %ls \"%ls\".", item->what, name.kwszPtr());
+        return Status::kInvalidValue;
+    }
+    if (id.objectClass() != nullptr &&
+        id.objectClass()->isDerivedFrom(KyDbLayerTableRecord::desc())) {
+        KyRefReadAccess<KyDbLayerTableRecord> layer(id);
+        if (layer && layer->isFrozen()) {
+            error.format(L"Cannot set the frozen layer \"%ls\" current.", name.kwszPtr());
+            return Status::kInvalidValue;
+        }
+    }
+    return fromDatabase((db->*item->set)(id), error);
+}
+
+const CurrentItem kLayerItem{L"layer", &KyDbDatabase::clayer, &KyDbDatabase::setClayer,
+                             &KyDbDatabase::layerTableId};
+const CurrentItem kLinetypeItem{L"linetype", &KyDbDatabase::celtype, &KyDbDatabase::setCeltype,
+                                &KyDbDatabase::linetypeTableId};
+const CurrentItem kTextStyleItem{L"text style", &KyDbDatabase::textstyle,
+                                 &KyDbDatabase::setTextstyle, &KyDbDatabase::textStyleTableId};
+const CurrentItem kDimStyleItem{L"dimension style", &KyDbDatabase::dimstyle,
+                                &KyDbDatabase::setDimstyle, &KyDbDatabase::dimStyleTableId};
+const CurrentItem kTableStyleItem{L"table style", &KyDbDatabase::tablestyle,
+                                  &KyDbDatabase::setTablestyle,
+                                  &KyDbDatabase::tableStyleDictionaryId};
+const CurrentItem kMLeaderStyleItem{L"multileader style", &KyDbDatabase::mleaderstyle,
+                                    &KyDbDatabase::setMLeaderstyle,
+                                    &KyDbDatabase::mleaderStyleDictionaryId};
+const CurrentItem kMaterialItem{L"material", &KyDbDatabase::cmaterial, &KyDbDatabase::setCmaterial,
+                                &KyDbDatabase::materialDictionaryId};
+const CurrentItem kDetailViewStyleItem{L"detail view style", &KyDbDatabase::detailViewStyle,
+                                       &KyDbDatabase::setDetailViewStyle,
+                                       &KyDbDatabase::detailViewStyleDictionaryId};
+const CurrentItem kSectionViewStyleItem{L"section view style", &KyDbDatabase::sectionViewStyle,
+                                        &KyDbDatabase::setSectionViewStyle,
+                                        &KyDbDatabase::sectionViewStyleDictionaryId};
+
+// ---- Typed header values
+
+Status getColor(const Access& access, KyRefResbufPtr& out) {
+    out = KyRefResbuf::makeString(KyRefColorText::format(access.database->cecolor()));
+    return Status::kOk;
+}
+
+Status setColor(const Access& access, const resbuf& value, KyString& error) {
+    KyCmColor color;
+    if (!KyRefColorText::parse(value.resval.rstring, color)) {
+        error.format(L"Invalid color \"%ls\".", textOf(value).kwszPtr());
+        return Status::kInvalidValue;
+    }
+    return fromDatabase(access.database->setCecolor(color), error);
+}
+
+Status getTransparency(const Access& access, KyRefResbufPtr& out) {
+    out = KyRefResbuf::makeString(KyRefTransparencyText::format(access.database->cetransparency()));
+    return Status::kOk;
+}
+
+Status setTransparency(const Access& access, const resbuf& value, KyString& error) {
+    KyCmTransparency transparency;
+    if (!KyRefTransparencyText::parse(value.resval.rstring, transparency)) {
+        error.format(L"Requires ByLayer, ByBlock or a transparency from 0 to %d.",
+                     KyRefTransparencyText::kMaximumPercent);
+        return Status::kOutOfRange;
+    }
+    return fromDatabase(access.database->setCetransparency(transparency), error);
+}
+
+Status getLineweight(const Access& access, KyRefResbufPtr& out) {
+    out = KyRefResbuf::makeShort(static_cast<short>(access.database->celweight()));
+    return Status::kOk;
+}
+
+Status setLineweight(const Access& access, const resbuf& value, KyString& error) {
+    return fromDatabase(
+        access.database->setCelweight(static_cast<KyDb::LineWeight>(value.resval.rint)), error);
+}
+
+Status getShadow(const Access& access, KyRefResbufPtr& out) {
+    out = KyRefResbuf::makeShort(static_cast<short>(access.database->cshadow()));
+    return Status::kOk;
+}
+
+Status setShadow(const Access& access, const resbuf& value, KyString& error) {
+    return fromDatabase(
+        access.database->setCshadow(static_cast<KyDb::ShadowFlags>(value.resval.rint)), error);
+}
+
+// Model space shows in the tiled viewport 2; a layout shows its paper space
+// viewport 1 until a viewport of it is entered.
+Status showSpace(KyDbDatabase* db, bool model, KyString& error) {
+    if (const Status status = fromDatabase(db->setTilemode(model), error); status != Status::kOk) {
+        return status;
+    }
+    return fromDatabase(db->setHeaderVar(L"CVPORT", KyRxValue(static_cast<short>(model ? 2 : 1))),
+                        error);
+}
+
+Status getTileMode(const Access& access, KyRefResbufPtr& out) {
+    out = KyRefResbuf::makeShort(access.database->tilemode() ? 1 : 0);
+    return Status::kOk;
+}
+
+Status setTileMode(const Access& access, const resbuf& value, KyString& error) {
+    return showSpace(access.database, value.resval.rint != 0, error);
+}
+
+Status getPlotStyleMode(const Access& access, KyRefResbufPtr& out) {
+    out = KyRefResbuf::makeShort(access.database->plotStyleMode() ? 1 : 0);
+    return Status::kOk;
+}
+
+// ---- Checked values
+
+Status checkAnnotationScale(const Access& access, const resbuf& value, KyString& error) {
+    const KyString name = textOf(value);
+    KyRefReadAccess<KyDbDictionary> scales(access.database->scaleListDictionaryId());
+    if (scales) {
+        for (KyDbDictionaryIterator it(scales.object()); !it.done(); it.next()) {
+            KyRefReadAccess<KyDbScale> scale(it.objectId());
+            if (scale && scale->scaleName().compareNoCase(name) == 0) {
+                return Status::kOk;
+            }
+        }
+    }
+    error.format(L"Cannot find scale \"%ls\".", name.kwszPtr());
+    return Status::kInvalidValue;
+}
+
+Status checkPlotStyle(const Access& access, const resbuf& value, KyString& error) {
+    const KyString name = textOf(value);
+    if (KyRefReservedWords::matches(name, KyRefReservedWords::kByLayer) ||
+        KyRefReservedWords::matches(name, KyRefReservedWords::kByBlock) ||
+        !itemNamed(access.database->plotStyleNameDictionaryId(), name).isNull()) {
+        return Status::kOk;
+    }
+    error.format(L"Cannot find plot style \"%ls\".", name.kwszPtr());
+    return Status::kInvalidValue;
+}
+
+// ---- The current layout
+
+KyString layoutName(KyDbObjectId layoutId) {
+    KyRefReadAccess<KyDbLayout> layout(layoutId);
+    return layout ? layout->layoutName() : KyString();
+}
+
+Status getLayout(const Access& access, KyRefResbufPtr& out) {
+    out = KyRefResbuf::makeString(layoutName(kydbCurrentLayoutId(access.database)));
+    return Status::kOk;
+}
+
+Status setLayout(const Access& access, const resbuf& value, KyString& error) {
+    const KyString name = textOf(value);
+    KyRefReadAccess<KyDbDictionary> layouts(access.database->layoutDictionaryId());
+    KyDbObjectId blockId;
+    bool found = false;
+    if (layouts) {
+        for (KyDbDictionaryIterator it(layouts.object()); !it.done() && !found; it.next()) {
+            KyRefReadAccess<KyDbLayout> layout(it.objectId());
+            if (layout && layout->layoutName().compareNoCase(name) == 0) {
+                blockId = layout->getBlockTableRecordId();
+                found = true;
+            }
+        }
+    }
+    if (!found) {
+        error.format(L"Cannot find layout \"%ls\".", name.kwszPtr());
+        return Status::kInvalidValue;
+    }
+    KyRefReadAccess<KyDbBlockTableRecord> block(blockId);
+    const KyString blockName = block ? block->name() : KyString();
+    if (blockName.compareNoCase(KyDbStandardContent::kModelSpaceName) == 0) {
+        return showSpace(access.database, true, error);
+    }
+    if (blockName.compareNoCase(KyDbStandardContent::kPaperSpaceName) == 0) {
+        return showSpace(access.database, false, error);
+    }
+    // Only the layout of *Paper_Space can be shown: another layout would have
+    // to take that block's place first.
+    error.format(L"Cannot switch to layout \"%ls\".", name.kwszPtr());
+    return Status::kInvalidValue;
+}
+
+// ---- Computed by the host
+
+Status getCommandNames(const Access& access, KyRefResbufPtr& out) {
+    KyRefHost* host = access.store != nullptr ? access.store->host() : nullptr;
+    out = KyRefResbuf::makeString(host != nullptr ? host->commandNames() : KyString());
+    return Status::kOk;
+}
+
+Status getDrawingName(const Access& access, KyRefResbufPtr& out) {
+    KyRefHost* host = access.store != nullptr ? access.store->host() : nullptr;
+    const KyRefDocument* document = host != nullptr ? host->documents().current() : nullptr;
+    if (document == nullptr) {
+        return Status::kNoDocument;
+    }
+    out = KyRefResbuf::makeString(document->name());
+    return Status::kOk;
+}
+
+}  // namespace
+
+namespace KyRefSysVarAccessors {
+
+const KyRefSysVarAccessor kLayer{getCurrentItem, nullptr, setCurrentItem, &kLayerItem};
+const KyRefSysVarAccessor kLinetype{getCurrentItem, nullptr, setCurrentItem, &kLinetypeItem};
+const KyRefSysVarAccessor kTextStyle{getCurrentItem, nullptr, setCurrentItem, &kTextStyleItem};
+const KyRefSysVarAccessor kDimStyle{getCurrentItem, nullptr, setCurrentItem, &kDimStyleItem};
+const KyRefSysVarAccessor kTableStyle{getCurrentItem, nullptr, setCurrentItem, &kTableStyleItem};
+const KyRefSysVarAccessor kMLeaderStyle{getCurrentItem, nullptr, setCurrentItem,
+                                        &kMLeaderStyleItem};
+const KyRefSysVarAccessor kMaterial{getCurrentItem, nullptr, setCurrentItem, &kMaterialItem};
+const KyRefSysVarAccessor kDetailViewStyle{getCurrentItem, nullptr, setCurrentItem,
+                                           &kDetailViewStyleItem};
+const KyRefSysVarAccessor kSectionViewStyle{getCurrentItem, nullptr, setCurrentItem,
+                                            &kSectionViewStyleItem};
+
+const KyRefSysVarAccessor kColor{getColor, nullptr, setColor};
+const KyRefSysVarAccessor kTransparency{getTransparency, nullptr, setTransparency};
+const KyRefSysVarAccessor kLineweight{getLineweight, nullptr, setLineweight};
+const KyRefSysVarAccessor kShadow{getShadow, nullptr, setShadow};
+const KyRefSysVarAccessor kTileMode{getTileMode, nullptr, setTileMode};
+const KyRefSysVarAccessor kPlotStyleMode{getPlotStyleMode, nullptr, nullptr};
+
+const KyRefSysVarAccessor kAnnotationScale{nullptr, checkAnnotationScale, nullptr};
+const KyRefSysVarAccessor kPlotStyle{nullptr, checkPlotStyle, nullptr};
+
+const KyRefSysVarAccessor kLayout{getLayout, nullptr, setLayout};
+
+const KyRefSysVarAccessor kCommandNames{getCommandNames, nullptr, nullptr};
+const KyRefSysVarAccessor kDrawingName{getDrawingName, nullptr, nullptr};
+
+}  // namespace KyRefSysVarAccessors

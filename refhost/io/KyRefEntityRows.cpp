@@ -1,0 +1,733 @@
+#include "KyRefEntityRows.h"
+
+#include <memory>
+
+#include "KyRefMemberList.h"
+#include "KyRefReadContext.h"
+#include "KyRefValueForms.h"
+#include "KyRefWriteContext.h"
+#include "db/KyDbArc.h"
+#include "db/KyDbAttribute.h"
+#include "db/KyDbBlockReference.h"
+#include "db/KyDbBlockTableRecord.h"
+#include "db/KyDbCircle.h"
+#include "db/KyDbDatabase.h"
+#include "db/KyDbDimension.h"
+#include "db/KyDbEllipse.h"
+#include "db/KyDbLeader.h"
+#include "db/KyDbLine.h"
+#include "db/KyDbMLeader.h"
+#include "db/KyDbMText.h"
+#include "db/KyDbObjectPointer.h"
+#include "db/KyDbPoint.h"
+#include "db/KyDbPolyline.h"
+#include "db/KyDbRasterImageDef.h"
+#include "db/KyDbStandardContent.h"
+#include "db/KyDbSun.h"
+#include "db/KyDbText.h"
+#include "db/KyDbUnknownEntity.h"
+#include "db/KyDbUnknownObject.h"
+#include "db/KyDbViewport.h"
+#include "db/KyDbVisualStyle.h"
+#include "rx/KyRxClass.h"
+
+namespace {
+
+using Forms = KyRefValueForms;
+using Std = KyDbStandardContent;
+using Check = KyRefReadContext;
+
+// ---- Members
+
+const KyRefMemberList kCommon{
+    {"layer", "\"0\""},
+    {"color", "256", false, "rgb book name"},
+    {"linetype", "\"ByLayer\""},
+    {"lineweight", "-1"},
+    {"transparency", "\"ByLayer\""},
+    {"linetypeScale", "1"},
+    {"material", "\"ByLayer\""},
+    {"plotStyle", "\"ByLayer\""},
+    {"visible", "true"},
+};
+const KyRefMemberList kLineMembers{kCommon, {{"start", nullptr, true}, {"end", nullptr, true}}};
+const KyRefMemberList kCircleMembers{kCommon, {{"center", nullptr, true}, {"radius"}}};
+const KyRefMemberList kArcMembers{
+    kCommon, {{"center", nullptr, true}, {"radius"}, {"startAngle"}, {"endAngle"}}};
+const KyRefMemberList kEllipseMembers{kCommon,
+                                      {{"center", nullptr, true},
+                                       {"majorAxis", nullptr, true},
+                                       {"ratio"},
+                                       {"startAngle", "0"},
+                                       {"endAngle", "360"}}};
+const KyRefMemberList kPointMembers{kCommon, {{"position", nullptr, true}}};
+const KyRefMemberList kPolylineMembers{kCommon, {{"points"}, {"closed", "false"}, {"width", "0"}}};
+const KyRefMemberList kTextMembers{kCommon,
+                                   {{"position", nullptr, true},
+                                    {"height"},
+                                    {"text"},
+                                    {"style", "\"Standard\""},
+                                    {"rotation", "0"}}};
+const KyRefMemberList kMTextMembers{
+    kCommon,
+    {{"position", nullptr, true}, {"height"}, {"text"}, {"style", "\"Standard\""}, {"width", "0"}}};
+const KyRefMemberList kInsertMembers{kCommon,
+                                     {{"block"},
+                                      {"position", nullptr, true},
+                                      {"scale", "[1, 1, 1]"},
+                                      {"rotation", "0"},
+                                      {"attributes", "[]", false, "tag text"},
+                                      {"dynamic", "false"}}};
+const KyRefMemberList kDimensionMembers{
+    kCommon,
+    {{"dimStyle", "\"Standard\""}, {"block"}, {"points", "[]"}, {"measurement"}, {"text", "\"\""}}};
+const KyRefMemberList kLeaderMembers{kCommon, {{"points"}, {"dimStyle", "\"Standard\""}}};
+const KyRefMemberList kMLeaderMembers{kCommon, {{"style"}, {"points"}, {"text", "\"\""}}};
+const KyRefMemberList kViewportMembers{kCommon,
+                                       {{"center", nullptr, true},
+                                        {"width"},
+                                        {"height"},
+                                        {"viewCenter", nullptr, true},
+                                        {"viewHeight"},
+                                        {"on", "true"},
+                                        {"locked", "false"},
+                                        {"frozenLayers", "[]"},
+                                        {"clip"},
+                                        {"visualStyle"},
+                                        {"sun"}}};
+
+template <typename T>
+KyRxClass* classOf() {
+    return T::desc();
+}
+
+KyGePoint3d requiredPoint(const KyRefJsonNode& node, const char* member) {
+    return Forms::point(node.required(member, "a point [x, y] or [x, y, z]"));
+}
+
+// A required number handed to a setter; a refusal fails with `expected`.
+template <typename Set>
+void requiredNumber(const KyRefJsonNode& node, const char* member, const char* expected, Set set) {
+    const KyRefJsonNode value = node.required(member, "a number");
+    Check::check(set(value.asNumber()), value, expected);
+}
+
+template <typename Set>
+void optionalNumber(const KyRefJsonNode& node, const char* member, const char* expected, Set set) {
+    if (const auto value = node.optional(member)) {
+        Check::check(set(value->asNumber()), *value, expected);
+    }
+}
+
+template <typename Set>
+void requiredPoints(const KyRefJsonNode& node, const char* member, Set set) {
+    const KyRefJsonNode value = node.required(member, "an array of points");
+    Check::check(set(Forms::points(value)), value, "points");
+}
+
+template <typename Set>
+void optionalPoints(const KyRefJsonNode& node, const char* member, Set set) {
+    if (const auto value = node.optional(member)) {
+        Check::check(set(Forms::points(*value)), *value, "points");
+    }
+}
+
+// The record named by the member, or by `otherwise` when it is absent.
+KyDbObjectId namedRecord(KyRefReadContext& context, const KyRefJsonNode& node, const char* member,
+                         KyDbObjectId tableId, const wchar_t* otherwise, const char* what) {
+    const auto value = node.optional(member);
+    return value ? context.record(tableId, *value, what)
+                 : context.record(tableId, otherwise, node, member, what);
+}
+
+KyDbObjectId textStyleOf(KyRefReadContext& context, const KyRefJsonNode& node) {
+    return namedRecord(context, node, "style", context.database()->textStyleTableId(),
+                       Std::kStandard, "text style");
+}
+
+KyDbObjectId dimStyleOf(KyRefReadContext& context, const KyRefJsonNode& node) {
+    return namedRecord(context, node, "dimStyle", context.database()->dimStyleTableId(),
+                       Std::kStandard, "dimension style");
+}
+
+// ---- Lines, circles, arcs, ellipses, points, polylines
+
+KyDbEntity* readLine(KyRefReadContext&, const KyRefJsonNode& node) {
+    auto line = std::make_unique<KyDbLine>();
+    line->setStartPoint(requiredPoint(node, "start"));
+    line->setEndPoint(requiredPoint(node, "end"));
+    return line.release();
+}
+
+void writeLine(KyRefWriteContext&, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& line = static_cast<const KyDbLine&>(entity);
+    out["start"] = Forms::point(line.startPoint());
+    out["end"] = Forms::point(line.endPoint());
+}
+
+KyDbEntity* readCircle(KyRefReadContext&, const KyRefJsonNode& node) {
+    auto circle = std::make_unique<KyDbCircle>();
+    circle->setCenter(requiredPoint(node, "center"));
+    requiredNumber(node, "radius", "a positive radius",
+                   [&](double radius) { return circle->setRadius(radius); });
+    return circle.release();
+}
+
+void writeCircle(KyRefWriteContext&, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& circle = static_cast<const KyDbCircle&>(entity);
+    out["center"] = Forms::point(circle.center());
+    out["radius"] = circle.radius();
+}
+
+KyDbEntity* readArc(KyRefReadContext&, const KyRefJsonNode& node) {
+    auto arc = std::make_unique<KyDbArc>();
+    arc->setCenter(requiredPoint(node, "center"));
+    requiredNumber(node, "radius", "a positive radius",
+                   [&](double radius) { return arc->setRadius(radius); });
+    requiredNumber(node, "startAngle", "an angle",
+                   [&](double angle) { return arc->setStartAngle(angle); });
+    requiredNumber(node, "endAngle", "an angle",
+                   [&](double angle) { return arc->setEndAngle(angle); });
+    return arc.release();
+}
+
+void writeArc(KyRefWriteContext&, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& arc = static_cast<const KyDbArc&>(entity);
+    out["center"] = Forms::point(arc.center());
+    out["radius"] = arc.radius();
+    out["startAngle"] = arc.startAngle();
+    out["endAngle"] = arc.endAngle();
+}
+
+KyDbEntity* readEllipse(KyRefReadContext&, const KyRefJsonNode& node) {
+    auto ellipse = std::make_unique<KyDbEllipse>();
+    ellipse->setCenter(requiredPoint(node, "center"));
+    const KyRefJsonNode axis = node.required("majorAxis", "a point [x, y] or [x, y, z]");
+    Check::check(ellipse->setMajorAxis(Forms::point(axis)), axis, "an axis other than [0, 0]");
+    requiredNumber(node, "ratio", "a ratio above 0 and at most 1",
+                   [&](double ratio) { return ellipse->setRadiusRatio(ratio); });
+    optionalNumber(node, "startAngle", "an angle",
+                   [&](double angle) { return ellipse->setStartAngle(angle); });
+    optionalNumber(node, "endAngle", "an angle",
+                   [&](double angle) { return ellipse->setEndAngle(angle); });
+    return ellipse.release();
+}
+
+void writeEllipse(KyRefWriteContext&, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& ellipse = static_cast<const KyDbEllipse&>(entity);
+    out["center"] = Forms::point(ellipse.center());
+    out["majorAxis"] = Forms::point(ellipse.majorAxis());
+    out["ratio"] = ellipse.radiusRatio();
+    out["startAngle"] = ellipse.startAngle();
+    out["endAngle"] = ellipse.endAngle();
+}
+
+KyDbEntity* readPoint(KyRefReadContext&, const KyRefJsonNode& node) {
+    return new KyDbPoint(requiredPoint(node, "position"));
+}
+
+void writePoint(KyRefWriteContext&, const KyDbEntity& entity, KyRefJson& out) {
+    out["position"] = Forms::point(static_cast<const KyDbPoint&>(entity).position());
+}
+
+KyDbEntity* readPolyline(KyRefReadContext&, const KyRefJsonNode& node) {
+    auto polyline = std::make_unique<KyDbPolyline>();
+    requiredPoints(node, "points",
+                   [&](const KyArray<KyGePoint3d>& points) { return polyline->setPoints(points); });
+    polyline->setClosed(node.boolean("closed", false));
+    optionalNumber(node, "width", "a width of 0 or more",
+                   [&](double width) { return polyline->setConstantWidth(width); });
+    return polyline.release();
+}
+
+void writePolyline(KyRefWriteContext&, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& polyline = static_cast<const KyDbPolyline&>(entity);
+    out["points"] = Forms::points(polyline.points());
+    out["closed"] = polyline.isClosed();
+    out["width"] = polyline.constantWidth();
+}
+
+// ---- Texts
+
+KyDbEntity* readText(KyRefReadContext& context, const KyRefJsonNode& node) {
+    auto text = std::make_unique<KyDbText>();
+    text->setPosition(requiredPoint(node, "position"));
+    requiredNumber(node, "height", "a positive height",
+                   [&](double height) { return text->setHeight(height); });
+    text->setTextString(node.text("text"));
+    text->setTextStyle(textStyleOf(context, node));
+    optionalNumber(node, "rotation", "an angle",
+                   [&](double angle) { return text->setRotation(angle); });
+    return text.release();
+}
+
+void writeText(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& text = static_cast<const KyDbText&>(entity);
+    out["position"] = Forms::point(text.position());
+    out["height"] = text.height();
+    out["text"] = kyrefUtf8(text.textString());
+    out["style"] = context.recordName(text.textStyle());
+    out["rotation"] = text.rotation();
+}
+
+KyDbEntity* readMText(KyRefReadContext& context, const KyRefJsonNode& node) {
+    auto text = std::make_unique<KyDbMText>();
+    text->setLocation(requiredPoint(node, "position"));
+    requiredNumber(node, "height", "a positive height",
+                   [&](double height) { return text->setTextHeight(height); });
+    text->setContents(node.text("text"));
+    text->setTextStyle(textStyleOf(context, node));
+    optionalNumber(node, "width", "a width of 0 or more",
+                   [&](double width) { return text->setWidth(width); });
+    return text.release();
+}
+
+void writeMText(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& text = static_cast<const KyDbMText&>(entity);
+    out["position"] = Forms::point(text.location());
+    out["height"] = text.textHeight();
+    out["text"] = kyrefUtf8(text.contents());
+    out["style"] = context.recordName(text.textStyle());
+    out["width"] = text.width();
+}
+
+// ---- Block references
+
+KyDbEntity* readInsert(KyRefReadContext& context, const KyRefJsonNode& node) {
+    auto reference = std::make_unique<KyDbBlockReference>();
+    const KyRefJsonNode block = node.required("block", "the name of a block");
+    Check::check(reference->setBlockTableRecord(
+                     context.record(context.database()->blockTableId(), block, "block")),
+                 block, "the name of a block");
+    reference->setPosition(requiredPoint(node, "position"));
+    if (const auto scale = node.optional("scale")) {
+        scale->expectArray();
+        if (scale->size() != 3) {
+            scale->fail("expected a scale [x, y, z]");
+        }
+        const KyGePoint3d factors(scale->item(0).asNumber(), scale->item(1).asNumber(),
+                                  scale->item(2).asNumber());
+        Check::check(reference->setScaleFactors(factors), *scale, "scale factors other than 0");
+    }
+    optionalNumber(node, "rotation", "an angle",
+                   [&](double angle) { return reference->setRotation(angle); });
+    reference->setIsDynamic(node.boolean("dynamic", false));
+    if (const auto attributes = node.optional("attributes")) {
+        attributes->expectArray();
+    }
+    return reference.release();
+}
+
+void fillInsert(KyRefReadContext& context, const KyRefJsonNode& node, KyDbEntity& entity) {
+    const auto attributes = node.optional("attributes");
+    if (!attributes) {
+        return;
+    }
+    auto& reference = static_cast<KyDbBlockReference&>(entity);
+    KyDbDatabase* db = context.database();
+    for (std::size_t i = 0; i < attributes->size(); ++i) {
+        const KyRefJsonNode item = attributes->item(i);
+        item.expectObject();
+        auto attribute = std::make_unique<KyDbAttribute>();
+        const KyRefJsonNode tag = item.required("tag", "a tag");
+        Check::check(attribute->setTag(tag.asText()), tag, "a tag that is not empty");
+        attribute->setTextString(item.text("text", L""));
+        // An attribute shows as its reference does.
+        attribute->setLayer(reference.layerId());
+        attribute->setLinetype(
+            context.record(db->linetypeTableId(), Std::kByLayer, node, "linetype", "linetype"));
+        attribute->setMaterial(reference.materialId());
+        attribute->setTextStyle(
+            context.record(db->textStyleTableId(), Std::kStandard, item, "style", "text style"));
+        KyDbObjectId id;
+        Check::check(reference.appendAttribute(id, attribute.get()), item, "an attribute");
+        attribute.release()->close();
+    }
+}
+
+void writeInsert(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& reference = static_cast<const KyDbBlockReference&>(entity);
+    out["block"] = context.recordName(reference.blockTableRecord());
+    out["position"] = Forms::point(reference.position());
+    const KyGePoint3d& scale = reference.scaleFactors();
+    out["scale"] = KyRefJson::array({scale.x, scale.y, scale.z});
+    out["rotation"] = reference.rotation();
+    KyRefJson attributes = KyRefJson::array();
+    KyArray<KyDbObjectId> ids;
+    reference.getAttributeIds(ids);
+    for (int i = 0; i < ids.length(); ++i) {
+        KyDbObjectPointer<KyDbAttribute> attribute(ids[i], KyDb::kForRead);
+        if (attribute.openStatus() == Kyro::eOk) {
+            attributes.push_back({{"tag", kyrefUtf8(attribute->tag())},
+                                  {"text", kyrefUtf8(attribute->textString())}});
+        }
+    }
+    out["attributes"] = std::move(attributes);
+    out["dynamic"] = reference.isDynamic();
+}
+
+// ---- Dimensions and leaders
+
+KyDbEntity* readDimension(KyRefReadContext& context, const KyRefJsonNode& node) {
+    auto dimension = std::make_unique<KyDbDimension>();
+    dimension->setDimensionStyle(dimStyleOf(context, node));
+    if (const auto block = node.optional("block")) {
+        Check::check(dimension->setDimBlockId(
+                         context.record(context.database()->blockTableId(), *block, "block")),
+                     *block, "the name of a block");
+    }
+    optionalPoints(node, "points", [&](const KyArray<KyGePoint3d>& points) {
+        return dimension->setPoints(points);
+    });
+    optionalNumber(node, "measurement", "a measurement",
+                   [&](double value) { return dimension->setMeasurement(value); });
+    dimension->setDimensionText(node.text("text", L""));
+    return dimension.release();
+}
+
+void writeDimension(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& dimension = static_cast<const KyDbDimension&>(entity);
+    out["dimStyle"] = context.recordName(dimension.dimensionStyle());
+    if (!dimension.dimBlockId().isNull()) {
+        out["block"] = context.recordName(dimension.dimBlockId());
+    }
+    out["points"] = Forms::points(dimension.points());
+    if (dimension.hasMeasurement()) {
+        out["measurement"] = dimension.measurement();
+    }
+    out["text"] = kyrefUtf8(dimension.dimensionText());
+}
+
+KyDbEntity* readLeader(KyRefReadContext& context, const KyRefJsonNode& node) {
+    auto leader = std::make_unique<KyDbLeader>();
+    requiredPoints(node, "points",
+                   [&](const KyArray<KyGePoint3d>& points) { return leader->setPoints(points); });
+    leader->setDimensionStyle(dimStyleOf(context, node));
+    return leader.release();
+}
+
+void writeLeader(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& leader = static_cast<const KyDbLeader&>(entity);
+    out["points"] = Forms::points(leader.points());
+    out["dimStyle"] = context.recordName(leader.dimensionStyle());
+}
+
+KyDbEntity* readMLeader(KyRefReadContext& context, const KyRefJsonNode& node) {
+    auto leader = std::make_unique<KyDbMLeader>();
+    const KyRefJsonNode style = node.required("style", "the name of a multileader style");
+    Check::check(leader->setMLeaderStyle(context.entry(
+                     context.database()->mleaderStyleDictionaryId(), style, "multileader style")),
+                 style, "the name of a multileader style");
+    requiredPoints(node, "points",
+                   [&](const KyArray<KyGePoint3d>& points) { return leader->setPoints(points); });
+    leader->setContents(node.text("text", L""));
+    return leader.release();
+}
+
+void writeMLeader(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& leader = static_cast<const KyDbMLeader&>(entity);
+    out["style"] = context.entryKey(leader.MLeaderStyle());
+    out["points"] = Forms::points(leader.points());
+    out["text"] = kyrefUtf8(leader.contents());
+}
+
+// ---- Viewports
+
+KyDbEntity* readViewport(KyRefReadContext& context, const KyRefJsonNode& node) {
+    auto viewport = std::make_unique<KyDbViewport>();
+    KyDbDatabase* db = context.database();
+    viewport->setCenterPoint(requiredPoint(node, "center"));
+    requiredNumber(node, "width", "a positive width",
+                   [&](double width) { return viewport->setWidth(width); });
+    requiredNumber(node, "height", "a positive height",
+                   [&](double height) { return viewport->setHeight(height); });
+    viewport->setViewCenter(requiredPoint(node, "viewCenter"));
+    requiredNumber(node, "viewHeight", "a positive height",
+                   [&](double height) { return viewport->setViewHeight(height); });
+    viewport->setOn(node.boolean("on", true));
+    viewport->setLocked(node.boolean("locked", false));
+    if (const auto frozen = node.optional("frozenLayers")) {
+        frozen->expectArray();
+        KyArray<KyDbObjectId> layers;
+        for (std::size_t i = 0; i < frozen->size(); ++i) {
+            layers.append(context.record(db->layerTableId(), frozen->item(i), "layer"));
+        }
+        Check::check(viewport->freezeLayersInViewport(layers), *frozen, "layer names");
+    }
+    if (const auto clip = node.optional("clip")) {
+        Check::check(viewport->setNonRectClipPoints(Forms::points(*clip)), *clip,
+                     "at least three points");
+    }
+    if (const auto style = node.optional("visualStyle")) {
+        Check::check(viewport->setVisualStyle(
+                         context.entry(db->visualStyleDictionaryId(), *style, "visual style")),
+                     *style, "the name of a visual style");
+    }
+    if (const auto sun = node.optional("sun")) {
+        Check::check(viewport->setSun(context.object(*sun, KyDbSun::desc(), "a sun (SUN object)")),
+                     *sun, "the handle of a sun");
+    }
+    return viewport.release();
+}
+
+void writeViewport(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& viewport = static_cast<const KyDbViewport&>(entity);
+    out["center"] = Forms::point(viewport.centerPoint());
+    out["width"] = viewport.width();
+    out["height"] = viewport.height();
+    out["viewCenter"] = Forms::point(viewport.viewCenter());
+    out["viewHeight"] = viewport.viewHeight();
+    out["on"] = viewport.isOn();
+    out["locked"] = viewport.isLocked();
+    KyArray<KyDbObjectId> layers;
+    viewport.getFrozenLayerList(layers);
+    KyRefJson frozen = KyRefJson::array();
+    for (int i = 0; i < layers.length(); ++i) {
+        frozen.push_back(context.recordName(layers[i]));
+    }
+    out["frozenLayers"] = std::move(frozen);
+    if (viewport.isNonRectClipOn()) {
+        out["clip"] = Forms::points(viewport.nonRectClipPoints());
+    }
+    if (!viewport.visualStyleId().isNull()) {
+        out["visualStyle"] = context.entryKey(viewport.visualStyleId());
+    }
+    if (!viewport.sunId().isNull()) {
+        out["sun"] = Forms::handle(KyDbHandle(viewport.sunId().handle()));
+    }
+}
+
+// ---- Types kept whole: their members are checked, their references too
+
+KyDbEntity* checkHatch(KyRefReadContext&, const KyRefJsonNode& node) {
+    if (const auto pattern = node.optional("pattern")) {
+        pattern->asString();
+    }
+    if (const auto loops = node.optional("loops")) {
+        loops->expectArray();
+        for (std::size_t i = 0; i < loops->size(); ++i) {
+            Forms::points(loops->item(i));
+        }
+    }
+    return nullptr;
+}
+
+KyDbEntity* checkImage(KyRefReadContext& context, const KyRefJsonNode& node) {
+    context.object(node.required("definition", "the handle of an image definition"),
+                   KyDbRasterImageDef::desc(), "an image definition (IMAGEDEF object)");
+    requiredPoint(node, "position");
+    const KyRefJsonNode size = node.required("size", "[width, height]");
+    size.expectArray();
+    if (size.size() != 2) {
+        size.fail("expected [width, height]");
+    }
+    size.item(0).asNumber();
+    size.item(1).asNumber();
+    return nullptr;
+}
+
+KyDbEntity* checkTable(KyRefReadContext& context, const KyRefJsonNode& node) {
+    context.entry(context.database()->tableStyleDictionaryId(),
+                  node.required("style", "the name of a table style"), "table style");
+    requiredPoint(node, "position");
+    node.integer("rows", 0, 1000000);
+    node.integer("columns", 0, 1000000);
+    if (const auto cellStyles = node.optional("cellStyles")) {
+        cellStyles->expectArray();
+        for (std::size_t i = 0; i < cellStyles->size(); ++i) {
+            const KyRefJsonNode row = cellStyles->item(i);
+            row.expectArray();
+            for (std::size_t j = 0; j < row.size(); ++j) {
+                row.item(j).asString();
+            }
+        }
+    }
+    return nullptr;
+}
+
+KyDbEntity* checkPointCloud(KyRefReadContext& context, const KyRefJsonNode& node) {
+    context.object(node.required("definition", "the handle of a point cloud definition"),
+                   KyDbUnknownObject::desc(), "a point cloud definition (POINTCLOUDDEF object)");
+    requiredPoint(node, "position");
+    return nullptr;
+}
+
+const KyRefEntityRow kRows[] = {
+    {"LINE", &classOf<KyDbLine>, &kLineMembers, &readLine, nullptr, &writeLine},
+    {"CIRCLE", &classOf<KyDbCircle>, &kCircleMembers, &readCircle, nullptr, &writeCircle},
+    {"ARC", &classOf<KyDbArc>, &kArcMembers, &readArc, nullptr, &writeArc},
+    {"ELLIPSE", &classOf<KyDbEllipse>, &kEllipseMembers, &readEllipse, nullptr, &writeEllipse},
+    {"POINT", &classOf<KyDbPoint>, &kPointMembers, &readPoint, nullptr, &writePoint},
+    {"POLYLINE", &classOf<KyDbPolyline>, &kPolylineMembers, &readPolyline, nullptr, &writePolyline},
+    {"TEXT", &classOf<KyDbText>, &kTextMembers, &readText, nullptr, &writeText},
+    {"MTEXT", &classOf<KyDbMText>, &kMTextMembers, &readMText, nullptr, &writeMText},
+    {"INSERT", &classOf<KyDbBlockReference>, &kInsertMembers, &readInsert, &fillInsert,
+     &writeInsert},
+    {"DIMENSION", &classOf<KyDbDimension>, &kDimensionMembers, &readDimension, nullptr,
+     &writeDimension},
+    {"LEADER", &classOf<KyDbLeader>, &kLeaderMembers, &readLeader, nullptr, &writeLeader},
+    {"MLEADER", &classOf<KyDbMLeader>, &kMLeaderMembers, &readMLeader, nullptr, &writeMLeader},
+    {"VIEWPORT", &classOf<KyDbViewport>, &kViewportMembers, &readViewport, nullptr, &writeViewport},
+    {"HATCH", nullptr, &kCommon, &checkHatch, nullptr, nullptr},
+    {"IMAGE", nullptr, &kCommon, &checkImage, nullptr, nullptr},
+    {"TABLE", nullptr, &kCommon, &checkTable, nullptr, nullptr},
+    {"POINTCLOUD", nullptr, &kCommon, &checkPointCloud, nullptr, nullptr},
+};
+
+const KyRefEntityRow* ofClass(const KyRxClass* entityClass) {
+    for (const KyRefEntityRow& row : kRows) {
+        if (row.entityClass != nullptr && row.entityClass() == entityClass) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+// ---- Members every entity has
+
+void readCommon(KyRefReadContext& context, const KyRefJsonNode& node, KyDbEntity& entity) {
+    KyDbDatabase* db = context.database();
+    const auto layer = node.optional("layer");
+    Check::check(entity.setLayer(layer ? context.record(db->layerTableId(), *layer, "layer")
+                                       : context.record(db->layerTableId(), Std::kLayerZero, node,
+                                                        "layer", "layer")),
+                 layer ? *layer : node, "a layer");
+    if (const auto color = node.optional("color")) {
+        Check::check(entity.setColor(Forms::color(*color)), *color, "a colour");
+    }
+    const auto linetype = node.optional("linetype");
+    Check::check(
+        entity.setLinetype(linetype ? context.record(db->linetypeTableId(), *linetype, "linetype")
+                                    : context.record(db->linetypeTableId(), Std::kByLayer, node,
+                                                     "linetype", "linetype")),
+        linetype ? *linetype : node, "a linetype");
+    if (const auto weight = node.optional("lineweight")) {
+        Check::check(entity.setLineWeight(Forms::lineWeight(*weight)), *weight, "a lineweight");
+    }
+    if (const auto transparency = node.optional("transparency")) {
+        Check::check(entity.setTransparency(Forms::transparency(*transparency)), *transparency,
+                     "a transparency");
+    }
+    optionalNumber(node, "linetypeScale", "a positive linetype scale",
+                   [&](double scale) { return entity.setLinetypeScale(scale); });
+    const auto material = node.optional("material");
+    Check::check(entity.setMaterial(
+                     material ? context.entry(db->materialDictionaryId(), *material, "material")
+                              : context.entry(db->materialDictionaryId(), Std::kByLayer, node,
+                                              "material", "material")),
+                 material ? *material : node, "a material");
+    if (const auto plotStyle = node.optional("plotStyle")) {
+        Check::check(entity.setPlotStyleName(plotStyle->asText()), *plotStyle, "a plot style name");
+    }
+    entity.setVisibility(node.boolean("visible", true));
+}
+
+void writeCommon(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& out) {
+    out["layer"] = context.recordName(entity.layerId());
+    out["color"] = Forms::color(entity.color());
+    out["linetype"] = context.recordName(entity.linetypeId());
+    out["lineweight"] = static_cast<int>(entity.lineWeight());
+    out["transparency"] = Forms::transparency(entity.transparency());
+    out["linetypeScale"] = entity.linetypeScale();
+    out["material"] = context.entryKey(entity.materialId());
+    out["plotStyle"] = kyrefUtf8(entity.plotStyleName());
+    out["visible"] = entity.visibility();
+}
+
+// Closes an entity that the reader appended, on every path.
+struct CloseEntity {
+    void operator()(KyDbEntity* entity) const { entity->close(); }
+};
+
+}  // namespace
+
+std::span<const KyRefEntityRow> KyRefEntityRows::rows() {
+    return kRows;
+}
+
+const KyRefEntityRow* KyRefEntityRows::ofType(const std::string& type) {
+    for (const KyRefEntityRow& row : kRows) {
+        if (type == row.type) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+const KyRefMemberList& KyRefEntityRows::common() {
+    return kCommon;
+}
+
+void KyRefEntityRows::read(KyRefReadContext& context, const KyRefJsonNode& node,
+                           KyDbBlockTableRecord& block) {
+    node.expectObject();
+    const std::string type = node.required("type", "the type of the entity").asString();
+    const KyRefEntityRow* row = ofType(type);
+    const bool modelled = row != nullptr && row->entityClass != nullptr;
+    std::unique_ptr<KyDbEntity> entity;
+    KyRefDrawingExtras::Form form;
+    if (modelled) {
+        entity.reset(row->read(context, node));
+        form = row->members->formOf(node.value());
+    } else {
+        if (row != nullptr) {
+            row->read(context, node);
+        }
+        // Kept whole: what is not common to every entity is its data.
+        form = kCommon.formOf(node.value());
+        auto unknown = std::make_unique<KyDbUnknownEntity>();
+        unknown->setTypeName(kyrefWide(type));
+        unknown->setData(form.unknown ? kyrefWide(form.unknown->dump()) : KyString(L"{}"));
+        form.unknown.reset();
+        entity = std::move(unknown);
+    }
+    readCommon(context, node, *entity);
+    const KyRefJsonNode handleNode = node.required("handle", "a handle");
+    const KyDbHandle handle = KyRefValueForms::handle(handleNode);
+    KyDbObjectId id;
+    const Kyro::ErrorStatus status = block.appendKyDbEntity(id, entity.get(), handle);
+    if (status == Kyro::eHandleInUse) {
+        handleNode.fail("the handle \"" + handleNode.asString() +
+                        "\" is taken by another object; expected a handle of its own");
+    }
+    Check::check(status, node, "an entity the block can hold");
+    const std::unique_ptr<KyDbEntity, CloseEntity> appended(entity.release());
+    if (modelled && row->fill != nullptr) {
+        row->fill(context, node, *appended);
+    }
+    if (form.present != 0 || form.threeD != 0 || form.unknown) {
+        context.extras().setForm(handle, std::move(form));
+    }
+}
+
+KyRefJson KyRefEntityRows::write(KyRefWriteContext& context, KyDbObjectId id) {
+    KyDbObjectPointer<KyDbEntity> entity(id, KyDb::kForRead);
+    if (entity.openStatus() != Kyro::eOk) {
+        return KyRefJson();
+    }
+    KyRefJson out = KyRefJson::object();
+    const auto* unknown = kyrxCast<KyDbUnknownEntity>(entity.object());
+    const KyRefEntityRow* row = unknown == nullptr ? ofClass(entity->isA()) : nullptr;
+    if (unknown != nullptr) {
+        out["type"] = kyrefUtf8(unknown->typeName());
+    } else if (row != nullptr) {
+        out["type"] = row->type;
+    } else {
+        out["type"] = kyrefUtf8(entity->isA()->name());
+    }
+    out["handle"] = Forms::handle(KyDbHandle(id.handle()));
+    writeCommon(context, *entity.object(), out);
+    if (row != nullptr) {
+        row->write(context, *entity.object(), out);
+        context.shape(out, id, *row->members);
+        return out;
+    }
+    context.shape(out, id, kCommon);
+    if (unknown != nullptr) {
+        const KyRefJson data = KyRefJson::parse(unknown->data().utf8(), nullptr, false);
+        if (data.is_object()) {
+            KyRefMemberList::mergeUnknown(out, data);
+        }
+    }
+    return out;
+}

@@ -1,0 +1,325 @@
+// The services of the reference host: each can be left out, each answers
+// from the current drawing where it can, and keeps the state a test sets. And
+// the host's manual clock, and its events on copies of the reactor list.
+#include "KyRefManualClock.h"
+#include "KyRefReadAccess.h"
+#include "RefHostTestSupport.h"
+#include "base/KyRxResourceInstance.h"
+#include "db/KyAxDocLock.h"
+#include "db/KyDbDatabase.h"
+#include "db/KyDbDictionary.h"
+#include "db/KyDbObjectPointer.h"
+#include "db/KyDbSymbolTable.h"
+#include "db/KyDbViewTableRecord.h"
+#include "db/KyDbVisualStyle.h"
+#include "pal/KyPal.h"
+
+namespace refhost {
+namespace {
+
+class HostServicesTest : public RefHostTest {};
+
+// The names of the items of `ids`, read through their dictionary.
+Lines visualStyleNames(const KyArray<KyDbObjectId>& ids);
+
+struct ServiceRow {
+    const char* name;
+    bool KyRefHostOptions::*option;
+    bool (*present)(KyRefHost& host);
+};
+
+template <auto Getter>
+bool has(KyRefHost& host) {
+    return (host.*Getter)() != nullptr;
+}
+
+const ServiceRow kServices[] = {
+    {"editor", &KyRefHostOptions::editor, has<&KyRefHost::editor>},
+    {"viewport", &KyRefHostOptions::viewportService, has<&KyRefHost::viewportService>},
+    {"visual style", &KyRefHostOptions::visualStyleService, has<&KyRefHost::visualStyleService>},
+    {"selection", &KyRefHostOptions::selectionService, has<&KyRefHost::selectionService>},
+    {"regeneration", &KyRefHostOptions::regenerationService, has<&KyRefHost::regenerationService>},
+    {"ucs", &KyRefHostOptions::ucsService, has<&KyRefHost::ucsService>},
+    {"layer", &KyRefHostOptions::layerService, has<&KyRefHost::layerService>},
+    {"plot", &KyRefHostOptions::plotService, has<&KyRefHost::plotService>},
+    {"render", &KyRefHostOptions::renderService, has<&KyRefHost::renderService>},
+    {"color", &KyRefHostOptions::colorService, has<&KyRefHost::colorService>},
+    {"scale list", &KyRefHostOptions::scaleListService, has<&KyRefHost::scaleListService>},
+    {"image", &KyRefHostOptions::imageService, has<&KyRefHost::imageService>},
+    {"recent block", &KyRefHostOptions::recentBlockService, has<&KyRefHost::recentBlockService>},
+    {"counting", &KyRefHostOptions::countingService, has<&KyRefHost::countingService>},
+};
+
+TEST(HostOptionsTest, EachServiceCanBeLeftOutAndTheOthersStay) {
+    for (const ServiceRow& left : kServices) {
+        KyRefHostOptions options;
+        options.*left.option = false;
+        KyRefHost host(options);
+        for (const ServiceRow& service : kServices) {
+            EXPECT_EQ(service.present(host), &service != &left)
+                << service.name << " with " << left.name << " left out";
+        }
+    }
+}
+
+TEST(HostOptionsTest, AHostWithEveryServiceAbsentStillHasItsDocuments) {
+    KyRefHost host(KyRefHostOptions::withoutServices());
+    for (const ServiceRow& service : kServices) {
+        EXPECT_FALSE(service.present(host)) << service.name;
+    }
+    EXPECT_EQ(host.reservedService(), nullptr);
+    ASSERT_NE(host.documentManager(), nullptr);
+    EXPECT_EQ(host.documentManager()->currentDocument(), kKyDiNoDocument);
+    host.documents().newDocument();
+    host.idle();
+    KyRefResbufPtr value;
+    EXPECT_EQ(host.sysVars().get(L"LUPREC", value), KyRefSysVarStatus::kOk);
+    EXPECT_EQ(value->resval.rint, 4);
+    EXPECT_TRUE(host.commandNames().isEmpty());
+}
+
+TEST_F(HostServicesTest, TheVisualStylesOfferedAreTheDrawingsOwnForUsers) {
+    KyRefVisualStyleService& styles = *host->visualStyleService();
+    KyArray<KyDbObjectId> ids;
+    ASSERT_EQ(styles.getListedStyles(db(), ids), Kyro::eOk);
+    EXPECT_EQ(visualStyleNames(ids),
+              (Lines{"2dWireframe", "Conceptual", "Hidden", "Modeling", "Realistic", "Shaded",
+                     "Shaded with edges", "Shades of Gray", "Sketchy", "Wireframe", "X-Ray"}));
+
+    KyDbObjectId current;
+    ASSERT_EQ(styles.getCurrent(current), Kyro::eOk);
+    EXPECT_EQ(current, ids[0]);
+    EXPECT_EQ(styles.styleKind(current), 4);
+    EXPECT_TRUE(styles.isTwoDimensional());
+
+    KyRefReadAccess<KyDbDictionary> dictionary(db()->visualStyleDictionaryId());
+    KyDbObjectId internal;
+    dictionary->getAt(L"Basic", internal);
+    EXPECT_EQ(styles.styleKind(internal), KyDiVisualStyleService::kUnlistedStyle);
+
+    ASSERT_EQ(styles.setCurrent(ids[1], 0), Kyro::eOk);
+    EXPECT_EQ(styles.currentName(), L"Conceptual");
+    EXPECT_FALSE(styles.isTwoDimensional());
+    EXPECT_EQ(styles.setCurrent(db()->layerTableId(), 0), Kyro::eInvalidInput);
+}
+
+Lines visualStyleNames(const KyArray<KyDbObjectId>& ids) {
+    Lines names;
+    for (int i = 0; i < ids.length(); ++i) {
+        KyRefReadAccess<KyDbVisualStyle> style(ids[i]);
+        names.push_back(style ? style->name().utf8() : "?");
+    }
+    return names;
+}
+
+TEST_F(HostServicesTest, TheViewResolutionIsAVariable) {
+    KyRefVisualStyleService& styles = *host->visualStyleService();
+    EXPECT_EQ(styles.getViewResolution(), 1000);
+    EXPECT_EQ(styles.setViewResolution(500), Kyro::eOk);
+    EXPECT_EQ(styles.setViewResolution(0), Kyro::eInvalidInput);
+    EXPECT_EQ(styles.getViewResolution(), 500);
+    EXPECT_EQ(spy.take(), (Lines{"sysVarWillChange VIEWRES", "sysVarChanged VIEWRES true",
+                                 "sysVarWillChange VIEWRES", "sysVarChanged VIEWRES false"}));
+}
+
+TEST_F(HostServicesTest, TheScalesOfferedAreTheDrawingsScaleList) {
+    KyArray<KyString> names;
+    ASSERT_EQ(host->scaleListService()->getScaleNames(db(), names), Kyro::eOk);
+    ASSERT_EQ(names.length(), 17);
+    EXPECT_EQ(names[0], L"1:1");
+    EXPECT_EQ(names[16], L"100:1");
+    EXPECT_EQ(host->scaleListService()->getScaleNames(nullptr, names), Kyro::eInvalidInput);
+}
+
+TEST_F(HostServicesTest, EachLayoutKeepsItsPlotStyleTableAndChangesAreTold) {
+    KyRefPlotService& plot = *host->plotService();
+    KyString text;
+    ASSERT_TRUE(plot.getPlotStyleTable(text));
+    EXPECT_EQ(text, L"Default.ctb");
+    ASSERT_TRUE(plot.getPlotStyleTableType(text));
+    EXPECT_EQ(text, L"Color-dependent");
+    ASSERT_TRUE(plot.getPlotAttachmentSpace(text));
+    EXPECT_EQ(text, L"Model");
+
+    const KyString monochrome(L"Monochrome.ctb");
+    const KyString named(L"Default.stb");
+    EXPECT_TRUE(plot.setPlotStyleTable(&monochrome));
+    EXPECT_FALSE(plot.setPlotStyleTable(&named)) << "a table of the other kind";
+    EXPECT_EQ(spy.take(), (Lines{"plotSettingsChanged"}));
+
+    ASSERT_TRUE(plot.setLayoutByName(KyString(L"Layout1")));
+    EXPECT_EQ(spy.take(),
+              (Lines{"sysVarWillChange CTAB", "sysVarChanged TILEMODE true",
+                     "sysVarChanged CTAB true", "sysVarChanged CVPORT true", "layoutChanged"}));
+    ASSERT_TRUE(plot.getPlotStyleTable(text));
+    EXPECT_EQ(text, L"Default.ctb");
+    ASSERT_TRUE(plot.getPageSetupName(text));
+    EXPECT_EQ(text, L"Layout1");
+    ASSERT_TRUE(plot.getPlotAttachmentSpace(text));
+    EXPECT_EQ(text, L"Layout");
+    EXPECT_FALSE(plot.setLayoutByName(KyString(L"Layout9")));
+
+    short dpi = -1;
+    ASSERT_TRUE(plot.getRasterDpi(dpi));
+    EXPECT_EQ(dpi, 0);
+    EXPECT_TRUE(plot.setRasterDpi(600));
+    EXPECT_FALSE(plot.setRasterDpi(10));
+    ASSERT_TRUE(plot.getRasterDpi(dpi));
+    EXPECT_EQ(dpi, 600);
+}
+
+TEST_F(HostServicesTest, RenderPresetsAreTheHostsAndTheDrawings) {
+    KyRefRenderService& render = *host->renderService();
+    KyString name;
+    render.getCurrentPresetName(name);
+    EXPECT_EQ(name, L"Medium");
+    EXPECT_EQ(render.setCurrentPreset(KyString(L"high")), Kyro::eOk);
+    EXPECT_EQ(render.setCurrentPreset(KyString(L"Blinding")), Kyro::eKeyNotFound);
+    render.getCurrentPresetName(name);
+    EXPECT_EQ(name, L"high");
+    KyArray<KyDbObjectId> ids;
+    EXPECT_EQ(render.getPresetIds(db(), ids), Kyro::eOk);
+    EXPECT_TRUE(ids.isEmpty()) << "a new drawing has no presets of its own";
+    KyDbObjectId owner;
+    EXPECT_EQ(render.getPresetDictionaryId(db(), owner), Kyro::eOk);
+    EXPECT_EQ(owner, db()->renderSettingsDictionaryId());
+    render.getOutputSize(name);
+    EXPECT_EQ(name, L"640x480");
+}
+
+TEST_F(HostServicesTest, TheUcsIsWhatUcsnameNames) {
+    KyString name;
+    KyDbObjectId id;
+    ASSERT_EQ(host->ucsService()->getCurrent(name, id), Kyro::eOk);
+    EXPECT_EQ(name, L"World");
+    EXPECT_TRUE(id.isNull());
+    host->documents().closeAll();
+    EXPECT_EQ(host->ucsService()->getCurrent(name, id), Kyro::eNoCurrentDocument);
+}
+
+TEST_F(HostServicesTest, TheViewShownFollowsARestoredView) {
+    KyDbObjectId viewId;
+    {
+        KyAxDocLock lock(db());
+        KyDbObjectPointer<KyDbSymbolTable> views(db()->viewTableId(), KyDb::kForWrite);
+        auto* view = new KyDbViewTableRecord();
+        view->setName(L"North");
+        view->setCenterPoint(KyGePoint3d(5.0, 6.0, 0.0));
+        view->setHeight(10.0);
+        ASSERT_EQ(views->add(viewId, view), Kyro::eOk);
+        view->close();
+    }
+    KyRefViewportService& viewport = *host->viewportService();
+    KyRefReadAccess<KyDbViewTableRecord> view(viewId);
+    EXPECT_FALSE(viewport.matchesView(view.object()));
+    ASSERT_EQ(viewport.restoreView(viewId), Kyro::eOk);
+    EXPECT_TRUE(viewport.matchesView(view.object()));
+    KyGePoint3d center;
+    ASSERT_EQ(viewport.getViewPoint(center, KyDiViewportService::kViewCenter), Kyro::eOk);
+    EXPECT_EQ(center, KyGePoint3d(5.0, 6.0, 0.0));
+    ASSERT_EQ(viewport.setViewPoint(KyGePoint3d(1.0, 1.0, 0.0), KyDiViewportService::kViewCenter),
+              Kyro::eOk);
+    EXPECT_FALSE(viewport.matchesView(view.object()));
+
+    EXPECT_EQ(viewport.setLensLength(-1.0), Kyro::eInvalidInput);
+    EXPECT_EQ(viewport.getLensLength(), 50.0);
+    KyCmColor background;
+    viewport.getBackgroundOverride(background);
+    EXPECT_TRUE(background.isNone());
+    KyDbObjectId current;
+    viewport.setCurrentViewportId(viewId);
+    viewport.getCurrentViewportId(current);
+    EXPECT_EQ(current, viewId);
+}
+
+TEST_F(HostServicesTest, TheColorListNamesAreInTheUsersLanguage) {
+    KyRefColorService& colors = *host->colorService();
+    KyString name;
+    ASSERT_EQ(colors.name(1, name), Kyro::eOk);
+    EXPECT_EQ(name, L"ByLayer");
+    ASSERT_EQ(colors.name(3, name), Kyro::eOk);
+    EXPECT_EQ(name, L"red");
+    EXPECT_EQ(colors.name(10, name), Kyro::eInvalidInput);
+    KyRxResourceInstance::setLanguage(L"de");
+    ASSERT_EQ(colors.name(2, name), Kyro::eOk);
+    KyRxResourceInstance::setLanguage(L"");
+    EXPECT_EQ(name, L"VonBlock");
+}
+
+TEST_F(HostServicesTest, TheLayerServiceAnswersAsSetAndCountsItsQuestions) {
+    KyRefLayerService& layers = *host->layerService();
+    EXPECT_EQ(layers.askTurnOnCurrentLayer(), KyDiLayerService::kTurnLayerOn);
+    layers.setTurnOnAnswer(KyDiLayerService::kLeaveLayerOff);
+    EXPECT_EQ(layers.askTurnOnCurrentLayer(), KyDiLayerService::kLeaveLayerOff);
+    EXPECT_EQ(layers.questionCount(), 2);
+    layers.reportCurrentLayerCantFreeze();
+    EXPECT_EQ(takeLog(), (Lines{"The current layer can't be frozen."}));
+}
+
+TEST_F(HostServicesTest, RecentBlocksCountsAndRegenerationsAreKeptAsSet) {
+    host->recentBlockService()->setNames({KyString(L"Door"), KyString(L"Window")});
+    host->recentBlockService()->noteInserted(L"window");
+    KyArray<KyString> names;
+    host->recentBlockService()->getRecentBlockNames(names);
+    ASSERT_EQ(names.length(), 2);
+    EXPECT_EQ(names[0], L"window");
+    EXPECT_EQ(names[1], L"Door");
+
+    KyString name;
+    KyString value;
+    EXPECT_EQ(host->countingService()->getActiveRecord(name, value), Kyro::eNotApplicable);
+    host->countingService()->setRecords({{KyString(L"Doors"), KyString(L"12")}});
+    host->countingService()->setActiveIndex(0);
+    EXPECT_EQ(host->countingService()->getActiveRecord(name, value), Kyro::eOk);
+    EXPECT_EQ(value, L"12");
+
+    KyArray<KyDbObjectId> layers;
+    layers.append(db()->layerTableId());
+    host->regenerationService()->setRegenMode(2);
+    host->regenerationService()->regenLayers(layers, host->regenerationService()->regenMode());
+    ASSERT_EQ(host->regenerationService()->requests().size(), 1U);
+    EXPECT_EQ(host->regenerationService()->requests()[0].mode, 2);
+}
+
+TEST_F(HostServicesTest, TheManualClockMovesOnlyWhenTold) {
+    ASSERT_NE(host->clock(), nullptr);
+    EXPECT_EQ(KyPal::SteadyClock::now(), KyRefManualClock::kStartNanoseconds);
+    host->clock()->advance(250);
+    EXPECT_EQ(KyPal::SteadyClock::now(), KyRefManualClock::kStartNanoseconds + 250'000'000);
+    host->clock()->advance(-5);
+    EXPECT_EQ(KyPal::SteadyClock::now(), KyRefManualClock::kStartNanoseconds + 250'000'000);
+    host.reset();
+    const std::int64_t real = KyPal::SteadyClock::now();
+    EXPECT_LT(real, KyPal::SteadyClock::now() + 1) << "the real clock is back";
+    EXPECT_NE(real, KyRefManualClock::kStartNanoseconds + 250'000'000);
+}
+
+// Removes itself and the reactor after it while an event is raised.
+class LeavingReactor : public EventSpy {
+public:
+    LeavingReactor(KyRefHost& host, KyDiHostReactor& next) : m_host(host), m_next(next) {}
+    void refreshNeeded(bool force) override {
+        EventSpy::refreshNeeded(force);
+        m_host.removeReactor(this);
+        m_host.removeReactor(&m_next);
+    }
+
+private:
+    KyRefHost& m_host;
+    KyDiHostReactor& m_next;
+};
+
+TEST_F(HostServicesTest, AReactorRemovedDuringAnEventIsNotCalledAfterwards) {
+    host->removeReactor(&spy);
+    LeavingReactor leaving(*host, spy);
+    host->addReactor(&leaving);
+    host->addReactor(&spy);
+    host->events().raiseRefreshNeeded(true);
+    host->events().raiseRefreshNeeded(false);
+    EXPECT_EQ(leaving.take(), (Lines{"refreshNeeded true"}));
+    EXPECT_TRUE(spy.lines().empty());
+    EXPECT_EQ(host->events().count(), 0);
+}
+
+}  // namespace
+}  // namespace refhost
