@@ -1,0 +1,58 @@
+// KyDiManager: the door through which the host starts and stops the data item
+// layer, and through which clients reach what it offers. A class of static
+// operations only. Whatever a client gets from it belongs to the manager; a
+// client deletes nothing it is given, and removes the reactors it added.
+#pragma once
+
+#include "kydi/KyDiExport.h"
+
+class KyDiDataItemReactor;
+class KyDiExternalReferenceHost;
+class KyDiHost;
+class KyDiManagerReactor;
+class KyDiSysVar;
+class KyRxObject;
+class KyRxPropertyBase;
+
+class KYDI_API KyDiManager {
+public:
+    KyDiManager() = delete;
+
+    // Starts the data item layer against `host`, which must stay valid until
+    // uninitialize. Host events may arrive from inside this call on. The
+    // layer starts once per process: a second start is not supported.
+    static void initialize(KyDiHost* host);
+    // Stops the data item layer: everything it made goes, its reactor is taken
+    // back from the host, and its runtime classes are deleted.
+    static void uninitialize();
+    // The host given to initialize; it is kept after uninitialize.
+    static KyDiHost* getHost();
+
+    // The optional host of external reference display. May be given at any
+    // time, also before initialize; not owned.
+    static void initializeXRefHost(KyDiExternalReferenceHost* xrefHost);
+    static void uninitializeXRefHost();
+    static KyDiExternalReferenceHost* getXRefHost();
+
+    // The system variable `name` (case-sensitive), made at the first request
+    // and kept until uninitialize. Null when the host can't read the variable:
+    // then nothing is kept, and the next request asks the host again.
+    static KyDiSysVar* getSysVar(const wchar_t* name);
+
+    // A refresh pass that is never held back: everything that changed since
+    // the last pass is read and told to the reactors.
+    static void refresh();
+
+    // The property that `path` names, reached from `object` step by step;
+    // null when a step can't be followed.
+    static const KyRxPropertyBase* parseReference(const wchar_t* path, const KyRxObject* object);
+
+    // Reactors told when a data item is destroyed. Null is ignored; a reactor
+    // added twice is told twice; removal takes the first occurrence.
+    static void addReactor(KyDiDataItemReactor* reactor);
+    static void removeReactor(KyDiDataItemReactor* reactor);
+    // Reactors told at the start and the end of every refresh pass, with the
+    // same rules.
+    static void addReactor(KyDiManagerReactor* reactor);
+    static void removeReactor(KyDiManagerReactor* reactor);
+};

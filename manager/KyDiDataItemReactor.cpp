@@ -1,0 +1,3 @@
+#include "kydi/KyDiDataItemReactor.h"
+
+KyDiDataItemReactor::~KyDiDataItemReactor() = default;

@@ -1,0 +1,174 @@
+#include "kydi/KyDiManager.h"
+
+#include <utility>
+
+#include "kydi/KyDiDataItemReactor.h"
+#include "kydi/KyDiHost.h"
+#include "kydi/KyDiManagerReactor.h"
+#include "kydi/KyDiSysVar.h"
+#include "manager/KyDiManagerModule.h"
+#include "manager/KyDiManagerState.h"
+#include "manager/KyDiReflectedClasses.h"
+#include "manager/MemberReactor.h"
+#include "manager/RefreshPass.h"
+#include "manager/host/DataItemHostReactor.h"
+#include "pal/KyPal.h"
+#include "rx/KyRxStandardAttributes.h"
+#include "sysvars/KyUiImpSysVar.h"
+#include "sysvars/SysVarTable.h"
+
+namespace {
+
+template <typename Reactor>
+void addTo(KyArray<Reactor*>& reactors, Reactor* reactor) {
+    if (reactor != nullptr) {
+        reactors.append(reactor);
+    }
+}
+
+template <typename Reactor>
+void removeFrom(KyArray<Reactor*>& reactors, Reactor* reactor) {
+    if (reactor != nullptr) {
+        reactors.remove(reactor);
+    }
+}
+
+}  // namespace
+
+void KyDiManager::initialize(KyDiHost* host) {
+    // Opened here and never closed: the layer lives as long as the process.
+    PerfLog_WriteDilLifetimeEvent(true);
+
+    KyDiManagerState& state = kydiManagerState();
+    state.host = host;
+    // Host events may arrive from here on.
+    state.hostReactor = new DataItemHostReactor();
+    if (host != nullptr) {
+        host->addReactor(state.hostReactor);
+    }
+
+    // Here come the item cache and the selection's effective property.
+
+    KyDiReflectedClasses::registerAll();
+    kyrxBuildClassHierarchy();
+
+    // Here come the context factories ("SUN" first, then "DRAWING",
+    // "SELECTION", "VIEWPORT", "RENDER"), the data item factories of the
+    // symbol table module, the known-collection rows with their paths, the
+    // name converters and the layer facet provider.
+
+    state.memberReactor = new MemberReactor();
+    KyRxMemberQueryEngine::theEngine()->addReactor(state.memberReactor);
+}
+
+void KyDiManager::uninitialize() {
+    KyDiManagerState& state = kydiManagerState();
+
+    // Here come, in this order: the known collections told to let go, the
+    // enumeration collections leaving their trackers, the effective
+    // properties dropping their tracker reactors, the built contexts and the
+    // context manager going, the effective properties going, and the
+    // collections going before the trackers they use.
+
+    if (state.hostReactor != nullptr) {
+        if (state.host != nullptr) {
+            state.host->removeReactor(state.hostReactor);
+        }
+        // The pointer keeps its value: nothing reads it once the host has
+        // let go of the reactor.
+        delete state.hostReactor;
+    }
+    // No host event can arrive from here on.
+
+    for (auto& [name, sysVar] : state.sysVars) {
+        delete sysVar;
+    }
+    state.sysVars.clear();
+
+    state.managerShutDown = true;
+
+    // Here come the layer facet provider leaving the query engine, and the
+    // item cache releasing its value items and its tables.
+
+    if (state.memberReactor != nullptr) {
+        KyRxMemberQueryEngine::theEngine()->removeReactor(state.memberReactor);
+        delete state.memberReactor;
+        state.memberReactor = nullptr;
+    }
+
+    // Taken out first: deleting a wrapper tells the query engine's reactors.
+    const auto wrappedMembers = std::exchange(state.wrappedMembers, {});
+    for (const auto& [hostMember, wrapper] : wrappedMembers) {
+        KyRxMember::deleteMember(wrapper);
+    }
+
+    // Here come the members that the item classes cached, before their
+    // classes.
+
+    KyDiReflectedClasses::deleteAll();
+
+    // Last comes the value type of expression values, taken out of the class
+    // dictionary.
+}
+
+KyDiHost* KyDiManager::getHost() {
+    return kydiManagerState().host;
+}
+
+void KyDiManager::initializeXRefHost(KyDiExternalReferenceHost* xrefHost) {
+    kydiManagerState().xrefHost = xrefHost;
+}
+
+void KyDiManager::uninitializeXRefHost() {
+    kydiManagerState().xrefHost = nullptr;
+}
+
+KyDiExternalReferenceHost* KyDiManager::getXRefHost() {
+    return kydiManagerState().xrefHost;
+}
+
+KyDiSysVar* KyDiManager::getSysVar(const wchar_t* name) {
+    if (name == nullptr) {
+        return nullptr;
+    }
+    auto& sysVars = kydiManagerState().sysVars;
+    if (auto found = sysVars.find(name); found != sysVars.end()) {
+        return found->second;
+    }
+    auto* sysVar = new KyDiSysVar(SysVarTable::newSysVar(name));
+    // The first read sets the value and the activity; no reactor is there to
+    // hear it. A variable that the host can't read leaves no trace.
+    if (sysVar->imp()->refresh() != Kyro::eOk) {
+        delete sysVar;
+        return nullptr;
+    }
+    sysVars.emplace(name, sysVar);
+    return sysVar;
+}
+
+void KyDiManager::refresh() {
+    RefreshPass::run(true);
+}
+
+const KyRxPropertyBase* KyDiManager::parseReference(const wchar_t* path, const KyRxObject* object) {
+    // Values read on the way are taken as they are: data items, which would
+    // have to become the host's values, come with their own conversion.
+    return KyRxRefersToAttribute::parseReference(
+        path, object, KyDiManagerModule::resolveReferenceProperty, nullptr);
+}
+
+void KyDiManager::addReactor(KyDiDataItemReactor* reactor) {
+    addTo(kydiManagerState().dataItemReactors, reactor);
+}
+
+void KyDiManager::removeReactor(KyDiDataItemReactor* reactor) {
+    removeFrom(kydiManagerState().dataItemReactors, reactor);
+}
+
+void KyDiManager::addReactor(KyDiManagerReactor* reactor) {
+    addTo(kydiManagerState().managerReactors, reactor);
+}
+
+void KyDiManager::removeReactor(KyDiManagerReactor* reactor) {
+    removeFrom(kydiManagerState().managerReactors, reactor);
+}

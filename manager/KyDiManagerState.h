@@ -1,0 +1,61 @@
+// Not part of the interface: the process-wide state of the data item layer.
+//
+// One object holds it, made at load with every container empty. The manager
+// fills it from initialize on and empties it at uninitialize; what each field
+// owns is said beside it.
+#pragma once
+
+#include <cstdint>
+#include <map>
+
+#include "base/KyArray.h"
+#include "base/KyString.h"
+#include "kydi/KyDiTypes.h"
+
+class DataItemHostReactor;
+class KyDiDataItemReactor;
+class KyDiExternalReferenceHost;
+class KyDiHost;
+class KyDiManagerReactor;
+class KyDiSysVar;
+class KyRxMember;
+class MemberReactor;
+
+struct KyDiManagerState {
+    // The host given to initialize; not owned, never cleared.
+    KyDiHost* host = nullptr;
+    // The manager's reactor on the host; deleted at uninitialize, when the
+    // host has let go of it.
+    DataItemHostReactor* hostReactor = nullptr;
+    // The optional external reference host; not owned.
+    KyDiExternalReferenceHost* xrefHost = nullptr;
+    // Told by the query engine when a member goes; owned from initialize to
+    // uninitialize.
+    MemberReactor* memberReactor = nullptr;
+
+    // System variable objects by name (case-sensitive); owned.
+    std::map<KyString, KyDiSysVar*, KyStringLess> sysVars;
+    // Host member to the wrapper member built for it; the wrappers are owned.
+    std::map<const KyRxMember*, KyRxMember*> wrappedMembers;
+
+    // Reactors and handlers of clients; not owned.
+    KyArray<KyDiDataItemReactor*> dataItemReactors;
+    KyArray<KyDiManagerReactor*> managerReactors;
+    KyArray<void (*)()> notifyHandlers;
+
+    // Set in the middle of uninitialize; nothing sets it back.
+    bool managerShutDown = false;
+    // The document that the host is destroying, between documentToBeDestroyed
+    // and documentDestructionDone; it counts as no current document.
+    KyDiDocument dyingDatabase = kKyDiNoDocument;
+    // Steady clock time of the last refresh pass that got past the throttle.
+    std::int64_t lastRefreshTime = 0;
+    // Space and editing state, read at the start of every refresh pass.
+    bool inPaperSpace = false;
+    bool inBlockEditor = false;
+    // Holds unforced refresh passes back when set; the system never sets it.
+    bool refreshSuspended = false;
+};
+
+// The one state object of the process.
+KyDiManagerState& kydiManagerState();

@@ -1,0 +1,37 @@
+// Not part of the interface: how every part of the data item layer reaches
+// the host, and the one rule by which it asks for the current document.
+#pragma once
+
+#include "kydi/KyDiTypes.h"
+
+class KyDbDatabase;
+class KyDiDocumentManager;
+class KyDiEditorService;
+class KyDiExternalReferenceHost;
+class KyDiHost;
+class KyDiViewportService;
+
+class KyDiHostAccess {
+public:
+    // The host; null before initialize.
+    static KyDiHost* host();
+    // The host's services; null before initialize or when the host has none.
+    static KyDiDocumentManager* documentManager();
+    static KyDiEditorService* editor();
+    static KyDiViewportService* viewportService();
+    static KyDiExternalReferenceHost* xrefHost();
+
+    // The current document: the document manager's answer, except that the
+    // document being destroyed counts as none. Every part asks this, unless
+    // it needs the raw answer.
+    static KyDiDocument currentDocument();
+    // The document manager's answer as it stands.
+    static KyDiDocument rawCurrentDocument();
+    // The database that commands work on now; null without one.
+    static KyDbDatabase* workingDatabase();
+
+    // Reads a 16-bit system variable through the editor service; false, with
+    // `value` 0, without an editor service, when the host refuses the read or
+    // when the variable is of another type.
+    static bool readShort(const wchar_t* name, short& value);
+};

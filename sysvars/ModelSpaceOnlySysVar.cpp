@@ -1,0 +1,7 @@
+#include "sysvars/ModelSpaceOnlySysVar.h"
+
+#include "manager/RefreshPass.h"
+
+bool ModelSpaceOnlySysVar::subIsActive() {
+    return !RefreshPass::inPaperSpace() && !RefreshPass::inBlockEditor();
+}

@@ -1,0 +1,77 @@
+// Variables that the layer computes instead of reading them from the host:
+// the document count, the displayed white, the background overrides; and the
+// plot style name, read as the host gives it.
+#include <gtest/gtest.h>
+
+#include "db/KyDbColorService.h"
+#include "db/KyDbHostApplicationServices.h"
+#include "kydi/KyDiExternalReferenceHost.h"
+#include "kydi/KyDiManager.h"
+#include "sysvars/SysVarFixture.h"
+
+namespace {
+
+using kytest::Lines;
+using kytest::SysVarSpy;
+
+class ComputedSysVars : public kytest::SysVarFixture {};
+
+// Index 7 shows the colour packed in `white`.
+class HostColors final : public KyDbColorService {
+public:
+    explicit HostColors(unsigned int white) : m_white(white) {}
+    unsigned int trueColorOf(int index) const override { return index == 7 ? m_white : 0; }
+
+private:
+    unsigned int m_white;
+};
+
+class ServicesWithColors final : public KyDbHostApplicationServices {
+public:
+    explicit ServicesWithColors(unsigned int white) : m_colors(white) {}
+    KyDbColorService* colorService() const override { return const_cast<HostColors*>(&m_colors); }
+
+private:
+    HostColors m_colors;
+};
+
+class RedBehindReferences final : public KyDiExternalReferenceHost {
+public:
+    Kyro::ErrorStatus getBackgroundOverride(KyCmColor& out, KyDbDatabase*) override {
+        out.setColorIndex(KyCmColor::kACIRed);
+        return Kyro::eOk;
+    }
+};
+
+}  // namespace
+
+TEST_F(ComputedSysVars, ZeroDocFollowsTheOpenDocuments) {
+    SysVarSpy spy(sysVar(L"ZERODOC"));
+    host.documents.closeAll();
+    KyDiManager::refresh();
+    host.documents.openDocument();
+    KyDiManager::refresh();
+    EXPECT_EQ(spy.lines, (Lines{L"valueChanged ZERODOC 1", L"valueChanged ZERODOC 0"}));
+}
+
+TEST_F(ComputedSysVars, DisplayedWhiteIsWhatIndexSevenShows) {
+    EXPECT_EQ(valueOf(L"DISPLAYEDWHITECOLOR"), L"7,0,0") << "no colour service of the host";
+
+    ServicesWithColors services(0xC2000000u);
+    kydbSetHostApplicationServices(&services);
+    KyDiManager::refresh();
+    EXPECT_EQ(valueOf(L"DISPLAYEDWHITECOLOR"), L"0,0,0") << "black on a light background";
+    kydbSetHostApplicationServices(nullptr);
+}
+
+TEST_F(ComputedSysVars, ExternalReferenceBackgroundNamesItsColour) {
+    RedBehindReferences references;
+    KyDiManager::initializeXRefHost(&references);
+    EXPECT_EQ(valueOf(L"XREFOVERRIDEBACKGROUNDCOLOR"), L"red");
+    KyDiManager::uninitializeXRefHost();
+}
+
+TEST_F(ComputedSysVars, PlotStyleIsReadAsTheHostGivesIt) {
+    host.editorService.setText(L"CPLOTSTYLE", L"ByLayer");
+    EXPECT_EQ(valueOf(L"CPLOTSTYLE"), L"ByLayer");
+}
