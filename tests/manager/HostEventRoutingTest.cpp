@@ -5,40 +5,37 @@
 
 #include "kydi/KyDiManager.h"
 #include "kydi/KyDiSysVar.h"
-#include "manager/ManagerFixture.h"
+#include "manager/DocumentClosingProbe.h"
 #include "manager/RecordingReactors.h"
+#include "manager/RefHostFixture.h"
+#include "manager/ResbufValues.h"
 
 namespace {
 
 using kytest::Lines;
 using kytest::PassSpy;
+using kytest::shortValue;
 using kytest::SysVarSpy;
+using kytest::textValue;
 
-resbuf shortValue(short value) {
-    resbuf record{};
-    record.restype = KYRB_SHORT;
-    record.resval.rint = value;
-    return record;
-}
-
-resbuf textValue(const wchar_t* text) {
-    resbuf record{};
-    record.restype = KYRB_STRING;
-    record.resval.rstring = const_cast<wchar_t*>(text);
-    return record;
-}
-
-class HostEvents : public kytest::ManagerFixture {
+class HostEvents : public kytest::RefHostFixture {
 protected:
     void SetUp() override {
-        ManagerFixture::SetUp();
-        document = host.documents.openDocument();
-        host.editorService.setShort(L"LUPREC", 4);
-        host.editorService.setText(L"CTAB", L"Model");
+        RefHostFixture::SetUp();
+        document = host.documents().currentDocument();
         luprec = KyDiManager::getSysVar(L"LUPREC");
         ctab = KyDiManager::getSysVar(L"CTAB");
-        // A first pass, so that every later unforced request is held back.
+        // A first pass: the host's own requests after a command now fall
+        // within the throttle's gap, until the test moves the clock.
         KyDiManager::refresh();
+    }
+
+    // Another drawing, open behind the first one.
+    KyDiDocument openBehind() {
+        KyRefDocument* first = host.documents().current();
+        const KyDiDocument other = host.documents().newDocument()->handle();
+        host.documents().makeCurrent(first);
+        return other;
     }
 
     KyDiDocument document = kKyDiNoDocument;
@@ -51,66 +48,81 @@ protected:
 
 TEST_F(HostEvents, ReportsOfChangesOnlyMarkWork) {
     SysVarSpy spy(luprec);
-    host.editorService.setShort(L"LUPREC", 6);
-    raise([](KyDiHostReactor* r) { r->sysVarChanged(L"LUPREC", true); });
-    raise([](KyDiHostReactor* r) { r->sysVarChanged(L"LUPREC", false); });
-    raise([](KyDiHostReactor* r) { r->commandEnded(L"SETVAR"); });
-    raise([](KyDiHostReactor* r) { r->drawingContentChanged(); });
-    raise([](KyDiHostReactor* r) { r->refreshNeeded(false); });
-    EXPECT_TRUE(spy.lines.empty()) << "the request came within 250 ms of the last pass";
+    type(L"LUPREC\n6\n");
+    EXPECT_EQ(host.setVariable(L"LUPREC", shortValue(12)), KyRefSysVarStatus::kOutOfRange)
+        << "reported to the layer as a failed change";
+    host.events().raiseDrawingContentChanged();
+    EXPECT_TRUE(spy.lines.empty()) << "the host's request came within 250 ms of the last pass";
     EXPECT_EQ(passes.passes, 1);
 
-    clock.advanceMs(251);
-    raise([](KyDiHostReactor* r) { r->refreshNeeded(false); });
+    waitPastTheThrottle();
+    host.events().raiseRefreshNeeded(false);
     EXPECT_EQ(spy.lines, (Lines{L"valueChanged LUPREC 6"}));
 }
 
-TEST_F(HostEvents, DocumentBeingDestroyedCountsAsNoDocumentUntilItsDestructionIsDone) {
+TEST_F(HostEvents, DocumentBeingClosedCountsAsNoDocumentWhileTheHostStillAnswersIt) {
     SysVarSpy spy(ctab);
-    raise([this](KyDiHostReactor* r) { r->documentToBeDestroyed(document); });
-    EXPECT_EQ(passes.passes, 2) << "the event runs a pass of its own, never held back";
+    type(L"CTAB\nLayout1\n");
+    kytest::DocumentClosingProbe probe(host, [&](KyDiDocument closing) {
+        EXPECT_EQ(host.documents().currentDocument(), closing);
+        EXPECT_EQ(hostValue(L"CTAB"), L"Layout1");
+        EXPECT_EQ(passes.passes, 2) << "the event runs a pass of its own, never held back";
+        EXPECT_TRUE(spy.lines.empty()) << "CTAB keeps its last value without a document";
+        EXPECT_EQ(ctab->setValue(textValue(L"Layout1"), true), Kyro::eCannotSetSysVar);
+        EXPECT_EQ(luprec->setValue(shortValue(2), false), Kyro::eNoCurrentDocument);
+        EXPECT_EQ(hostValue(L"LUPREC"), L"4");
+    });
+    host.documents().closeAll();
+    EXPECT_EQ(probe.calls, 1);
+    EXPECT_TRUE(sentTexts().empty());
 
-    // The host still answers the document as current; the layer does not.
-    host.editorService.setText(L"CTAB", L"Layout1");
-    KyDiManager::refresh();
-    EXPECT_TRUE(spy.lines.empty()) << "CTAB keeps its last value without a document";
-    EXPECT_EQ(ctab->setValue(textValue(L"Layout2"), true), Kyro::eCannotSetSysVar);
-    EXPECT_EQ(luprec->setValue(shortValue(2), false), Kyro::eNoCurrentDocument);
-    EXPECT_TRUE(host.editorService.commands.empty());
-
-    raise([](KyDiHostReactor* r) { r->documentDestroyed(); });
-    raise([](KyDiHostReactor* r) { r->documentDestructionDone(); });
-    KyDiManager::refresh();
-    EXPECT_EQ(spy.lines, (Lines{L"valueChanged CTAB Layout1"}));
+    host.documents().newDocument();
     EXPECT_EQ(luprec->setValue(shortValue(2), false), Kyro::eOk);
+    EXPECT_EQ(hostValue(L"LUPREC"), L"2");
+}
+
+TEST_F(HostEvents, ClosingADocumentRefreshesAtOnceAgainstTheNextOne) {
+    type(L"LUPREC\n2\n");
+    KyRefDocument* second = host.documents().newDocument();
+    SysVarSpy spy(luprec);
+
+    host.documents().closeDocument(second);
+    EXPECT_EQ(spy.lines, (Lines{L"valueChanged LUPREC 2"}))
+        << "the first drawing's value, within the throttle's gap";
 }
 
 TEST_F(HostEvents, QuietDocumentRefreshesAtOnceWhenItIsCurrent) {
-    raise([](KyDiHostReactor* r) { r->documentBecameQuiet(0x999); });
-    EXPECT_EQ(passes.passes, 1) << "another document";
-    raise([this](KyDiHostReactor* r) { r->documentBecameQuiet(document); });
-    EXPECT_EQ(passes.passes, 2);
+    const KyDiDocument other = openBehind();
+    const int before = passes.passes;
+    host.events().raiseDocumentBecameQuiet(other);
+    EXPECT_EQ(passes.passes, before) << "another document";
+    host.events().raiseDocumentBecameQuiet(document);
+    EXPECT_EQ(passes.passes, before + 1);
 }
 
-TEST_F(HostEvents, BusyDocumentSwallowsWhatChangedUntilTheNextRealChange) {
+TEST_F(HostEvents, BusyStretchHidesWhatChangedBeforeItUntilTheNextRealChange) {
     SysVarSpy spy(luprec);
-    host.editorService.setShort(L"LUPREC", 6);
-    raise([this](KyDiHostReactor* r) { r->documentBecameBusy(document); });
+    type(L"LUPREC\n6\n");
+    host.events().raiseDocumentBecameBusy(document);
     KyDiManager::refresh();
     EXPECT_TRUE(spy.lines.empty());
     resbuf value{};
     ASSERT_EQ(luprec->getValue(value), Kyro::eOk);
     EXPECT_EQ(value.resval.rint, 6) << "the value is taken as known";
 
-    host.editorService.setShort(L"LUPREC", 7);
-    KyDiManager::refresh();
-    EXPECT_EQ(spy.lines, (Lines{L"valueChanged LUPREC 7"}));
+    host.events().raiseDocumentBecameQuiet(document);
+    EXPECT_TRUE(spy.lines.empty()) << "the quiet document's pass finds nothing new";
+
+    waitPastTheThrottle();
+    type(L"LUPREC\n7\n");
+    EXPECT_EQ(spy.lines, (Lines{L"valueChanged LUPREC 7"})) << "through the host's own request";
 }
 
 TEST_F(HostEvents, BusyOtherDocumentSwallowsNothing) {
+    const KyDiDocument other = openBehind();
     SysVarSpy spy(luprec);
-    host.editorService.setShort(L"LUPREC", 6);
-    raise([](KyDiHostReactor* r) { r->documentBecameBusy(0x999); });
+    type(L"LUPREC\n6\n");
+    host.events().raiseDocumentBecameBusy(other);
     KyDiManager::refresh();
     EXPECT_EQ(spy.lines, (Lines{L"valueChanged LUPREC 6"}));
 }

@@ -8,14 +8,14 @@
 #include "kydi/KyDiDataItemReactor.h"
 #include "kydi/KyDiManager.h"
 #include "manager/KyDiManagerModule.h"
-#include "manager/ManagerFixture.h"
+#include "manager/RefHostFixture.h"
 #include "rx/KyRxClass.h"
 #include "rx/KyRxMember.h"
 #include "rx/KyRxProperty.h"
 
 namespace {
 
-class ItemReactors : public kytest::ManagerFixture {};
+class ItemReactors : public kytest::RefHostFixture {};
 
 // Records which reactor heard which item, in order.
 struct Journal {
@@ -130,8 +130,8 @@ public:
     KyRxClass* isA() const override { return desc(); }
 };
 
-class WrappedMembers : public kytest::ManagerFixture {};
-class ReferencePaths : public kytest::ManagerFixture {};
+class WrappedMembers : public kytest::RefHostFixture {};
+class ReferencePaths : public kytest::RefHostFixture {};
 
 }  // namespace
 

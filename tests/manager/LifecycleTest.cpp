@@ -4,9 +4,9 @@
 
 #include <utility>
 
+#include "KyRefHost.h"
 #include "kydi/KyDiExternalReferenceHost.h"
 #include "kydi/KyDiManager.h"
-#include "manager/FakeDiHost.h"
 #include "manager/KyDiReflectedClasses.h"
 #include "manager/host/IKyDiCustomContextHost.h"
 #include "pal/KyPal.h"
@@ -15,8 +15,6 @@
 #include "rx/KyRxDictionary.h"
 
 namespace {
-
-using kytest::FakeDiHost;
 
 // Every runtime class of the layer with the parent it is linked to.
 const std::pair<const wchar_t*, const wchar_t*> kClasses[] = {
@@ -50,6 +48,19 @@ const std::pair<const wchar_t*, const wchar_t*> kClasses[] = {
     {L"KyDiMeasureGeomContext", L"KyDiContext"},
 };
 
+// A host that is busy while the layer starts: the moment the layer's reactor
+// is registered, the host asks for a pass, begins a stretch of work and closes
+// its drawing.
+class HostBusyAtStart final : public KyRefHost {
+public:
+    void addReactor(KyDiHostReactor* reactor) override {
+        KyRefHost::addReactor(reactor);
+        events().raiseRefreshNeeded(true);
+        events().raiseDocumentBecameBusy(documents().currentDocument());
+        documents().closeAll();
+    }
+};
+
 class BackgroundHost final : public KyDiExternalReferenceHost {
 public:
     Kyro::ErrorStatus getBackgroundOverride(KyCmColor& out, KyDbDatabase*) override {
@@ -62,34 +73,29 @@ public:
 
 TEST(ManagerLifecycle, EventsArrivingWhileTheLayerStartsAreHandled) {
     const int passes = KyPal::PerfLog::notifyEventCount(false);
-    // A host busy while the layer starts raises events at once.
-    FakeDiHost host;
-    host.onAddReactor = [](KyDiHostReactor* reactor) {
-        reactor->refreshNeeded(true);
-        reactor->documentBecameBusy(kKyDiNoDocument);
-        reactor->documentToBeDestroyed(0x100);
-        reactor->documentDestructionDone();
-    };
+    HostBusyAtStart host;
+    host.documents().newDocument();
     KyDiManager::initialize(&host);
     EXPECT_EQ(KyPal::PerfLog::notifyEventCount(false), passes + 2)
-        << "the requested pass and the one of the destroyed document";
+        << "the requested pass and the one of the closed drawing";
     EXPECT_NE(kyrxFindKyRxClass(L"KyDiItem"), nullptr) << "the start went on";
     KyDiManager::uninitialize();
 }
 
 TEST(ManagerLifecycle, HostHoldsTheLayersReactorFromStartToStop) {
-    FakeDiHost host;
+    KyRefHost host;
+    EXPECT_EQ(host.events().count(), 0);
     KyDiManager::initialize(&host);
-    EXPECT_EQ(host.reactors.size(), 1u);
+    EXPECT_EQ(host.events().count(), 1);
     EXPECT_EQ(KyDiManager::getHost(), &host);
 
     KyDiManager::uninitialize();
-    EXPECT_TRUE(host.reactors.empty()) << "no host event can arrive after the stop";
+    EXPECT_EQ(host.events().count(), 0) << "no host event can arrive after the stop";
     EXPECT_EQ(KyDiManager::getHost(), &host) << "the host is kept";
 }
 
 TEST(ManagerLifecycle, ClassesAreRegisteredLinkedToTheirParentsAndDeletedAtStop) {
-    FakeDiHost host;
+    KyRefHost host;
     KyDiManager::initialize(&host);
     for (const auto& [name, parent] : kClasses) {
         const KyRxClass* cls = kyrxFindKyRxClass(name);
@@ -109,7 +115,7 @@ TEST(ManagerLifecycle, ClassesAreRegisteredLinkedToTheirParentsAndDeletedAtStop)
 TEST(ManagerLifecycle, LifetimeMarkOpensAtStartAndIsNeverClosed) {
     const int begins = KyPal::PerfLog::lifetimeEventCount(true);
     const int ends = KyPal::PerfLog::lifetimeEventCount(false);
-    FakeDiHost host;
+    KyRefHost host;
     KyDiManager::initialize(&host);
     EXPECT_EQ(KyPal::PerfLog::lifetimeEventCount(true), begins + 1);
     KyDiManager::uninitialize();
@@ -122,7 +128,7 @@ TEST(ManagerLifecycle, ExternalReferenceHostMayComeBeforeTheStart) {
     KyDiManager::initializeXRefHost(&xrefHost);
     EXPECT_EQ(KyDiManager::getXRefHost(), &xrefHost);
 
-    FakeDiHost host;
+    KyRefHost host;
     KyDiManager::initialize(&host);
     EXPECT_EQ(KyDiManager::getXRefHost(), &xrefHost);
     KyDiManager::uninitializeXRefHost();
@@ -131,7 +137,7 @@ TEST(ManagerLifecycle, ExternalReferenceHostMayComeBeforeTheStart) {
 }
 
 TEST(ManagerLifecycle, RegisteringAgainUnderTheSameDescriptorChangesNothing) {
-    FakeDiHost host;
+    KyRefHost host;
     KyDiManager::initialize(&host);
     KyRxClass* sun = kyrxFindKyRxClass(L"KyDiSunContext");
     KyRxClass* item = kyrxFindKyRxClass(L"KyDiItem");
@@ -145,7 +151,7 @@ TEST(ManagerLifecycle, RegisteringAgainUnderTheSameDescriptorChangesNothing) {
 }
 
 TEST(ManagerLifecycleDeathTest, AnotherClassUnderAKnownNameStopsTheProcess) {
-    FakeDiHost host;
+    KyRefHost host;
     KyDiManager::initialize(&host);
     // Another module takes the name of a class the layer registered.
     auto replaceClass = [](const wchar_t* name) {

@@ -1,33 +1,63 @@
 // The data item layer started against the reference host, with one new
-// drawing open and the host on its manual clock. The host runs queued
-// command text only when the test calls idle(), as a real host does when the
-// user pauses.
+// drawing open (unless the test asks for none) and the host on its manual
+// clock. The host runs queued command text only when the test calls idle(),
+// as a real host does when the user pauses. The layer stops at the end of the
+// test, unless the test stopped it itself.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "KyRefHost.h"
 #include "KyRefManualClock.h"
 #include "kydi/KyDiManager.h"
+#include "manager/RecordingReactors.h"
 
 namespace kytest {
 
 class RefHostFixture : public ::testing::Test {
 protected:
-    static KyRefHostOptions options() {
-        KyRefHostOptions withClock;
-        withClock.manualClock = true;
-        return withClock;
+    enum class Drawing { kNew, kNone };
+
+    RefHostFixture() : RefHostFixture(onManualClock()) {}
+    explicit RefHostFixture(const KyRefHostOptions& options, Drawing drawing = Drawing::kNew)
+        : RefHostFixture(std::make_unique<KyRefHost>(options), drawing) {}
+    // A host of a class derived from the reference host, built on the manual
+    // clock by the test.
+    explicit RefHostFixture(std::unique_ptr<KyRefHost> owned, Drawing drawing = Drawing::kNew)
+        : m_host(std::move(owned)), m_drawing(drawing), host(*m_host) {}
+
+    // `options` with the manual clock.
+    static KyRefHostOptions onManualClock(KyRefHostOptions options = KyRefHostOptions()) {
+        options.manualClock = true;
+        return options;
+    }
+    // The manual clock and no editor, as in an application without a command
+    // line.
+    static KyRefHostOptions withoutEditor() {
+        KyRefHostOptions options = onManualClock();
+        options.editor = false;
+        return options;
     }
 
     void SetUp() override {
-        host.documents().newDocument();
+        if (m_drawing == Drawing::kNew) {
+            host.documents().newDocument();
+        }
         KyDiManager::initialize(&host);
     }
-    void TearDown() override { KyDiManager::uninitialize(); }
+    void TearDown() override { stop(); }
+
+    void stop() {
+        if (!m_stopped) {
+            m_stopped = true;
+            KyDiManager::uninitialize();
+        }
+    }
 
     // Past the throttle: the next unforced refresh request is a pass.
     void waitPastTheThrottle() { host.clock()->advance(251); }
@@ -39,10 +69,12 @@ protected:
         }
         return lines;
     }
-    // The texts the layer sent to the host, in order.
+    // The texts the layer sent to the host since the last call, in order.
+    // The host's editor is asked by its own name: a test host may hide it
+    // from the layer.
     std::vector<std::wstring> sentTexts() {
         std::vector<std::wstring> texts;
-        for (const KyRefEditor::SentCommand& sent : host.editor()->takeSentCommands()) {
+        for (const KyRefEditor::SentCommand& sent : host.KyRefHost::editor()->takeSentCommands()) {
             texts.emplace_back(sent.text.kwszPtr());
         }
         return texts;
@@ -50,11 +82,23 @@ protected:
     // Types `text` on the host's command line, as a user would, and lets the
     // host run it.
     void type(const wchar_t* text) {
-        host.editor()->interpreter().queue(text);
+        host.KyRefHost::editor()->interpreter().queue(text);
         host.idle();
     }
+    // The value the host holds, in the spies' notation.
+    std::wstring hostValue(const wchar_t* name) {
+        KyRefResbufPtr value;
+        host.sysVars().get(name, value);
+        return valueText(value.get());
+    }
 
-    KyRefHost host{options()};
+private:
+    std::unique_ptr<KyRefHost> m_host;
+    Drawing m_drawing;
+    bool m_stopped = false;
+
+protected:
+    KyRefHost& host;
 };
 
 }  // namespace kytest

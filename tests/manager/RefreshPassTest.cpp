@@ -2,76 +2,81 @@
 // pass tells its reactors, the notify handlers, and the editing state it reads.
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <stdexcept>
 
-#include "db/KyDbDatabase.h"
+#include "db/KyAxDocLock.h"
 #include "kydi/KyDiManager.h"
 #include "kydi/KyUiAddNotifyHandler.h"
-#include "manager/ManagerFixture.h"
 #include "manager/RecordingReactors.h"
+#include "manager/RefHostFixture.h"
+#include "manager/ResbufValues.h"
 #include "pal/KyPal.h"
 
 namespace {
 
 using kytest::Lines;
-using kytest::ManualClock;
 using kytest::PassSpy;
 using kytest::SysVarSpy;
 
-constexpr std::int64_t kGap = 250'000'000;
-
-void requestRefresh(kytest::FakeDiHost& host, bool force = false) {
-    host.raise([force](KyDiHostReactor* reactor) { reactor->refreshNeeded(force); });
-}
-
-class RefreshThrottle : public kytest::ManagerFixture {
+class RefreshThrottle : public kytest::RefHostFixture {
 protected:
+    void requestRefresh(bool force = false) { host.events().raiseRefreshNeeded(force); }
+
     PassSpy spy;
 };
 
 }  // namespace
 
 TEST_F(RefreshThrottle, FirstRequestIsNeverHeldBack) {
-    requestRefresh(host);
+    SysVarSpy luprec(KyDiManager::getSysVar(L"LUPREC"));
+    type(L"LUPREC\n3\n");
     EXPECT_EQ(spy.passes, 1);
+    EXPECT_EQ(luprec.lines, (Lines{L"valueChanged LUPREC 3"})) << "through the host's request";
 }
 
-TEST_F(RefreshThrottle, ExactlyTheGapIsHeldBackAndOneNanosecondMorePasses) {
-    requestRefresh(host);
-    clock.advance(kGap);
-    requestRefresh(host);
+TEST_F(RefreshThrottle, ExactlyTheGapIsHeldBack) {
+    requestRefresh();
+    host.clock()->advance(250);
+    requestRefresh();
     EXPECT_EQ(spy.passes, 1) << "the distance must be above 250 ms";
-    clock.advance(1);
-    requestRefresh(host);
+    host.clock()->advance(1);
+    requestRefresh();
+    EXPECT_EQ(spy.passes, 2);
+}
+
+TEST_F(RefreshThrottle, CommandsOfOneIdleStretchGiveOnePass) {
+    type(L"LUPREC\n3\nLUPREC\n5\n");
+    EXPECT_EQ(spy.passes, 1) << "the host asked after each command";
+    host.clock()->advance(251);
+    type(L"LUPREC\n6\n");
     EXPECT_EQ(spy.passes, 2);
 }
 
 TEST_F(RefreshThrottle, HeldBackRequestDoesNotMoveTheTimeOfTheLastPass) {
-    requestRefresh(host);
-    clock.advanceMs(200);
-    requestRefresh(host);
-    clock.advanceMs(60);
-    requestRefresh(host);
+    requestRefresh();
+    host.clock()->advance(200);
+    requestRefresh();
+    host.clock()->advance(60);
+    requestRefresh();
     EXPECT_EQ(spy.passes, 2) << "260 ms after the last pass, not 60 ms after the held request";
 }
 
 TEST_F(RefreshThrottle, ForcedPassesAlwaysRunAndRestartTheGap) {
     KyDiManager::refresh();
     KyDiManager::refresh();
-    requestRefresh(host, true);
+    requestRefresh(true);
     EXPECT_EQ(spy.passes, 3);
-    clock.advanceMs(200);
-    requestRefresh(host);
+    host.clock()->advance(200);
+    requestRefresh();
     EXPECT_EQ(spy.passes, 3);
 }
 
 TEST_F(RefreshThrottle, ReducedServiceModeHasNoGap) {
     KyPal::Process::setFabric(true);
-    requestRefresh(host);
-    clock.advance(1);
-    requestRefresh(host);
-    requestRefresh(host);
+    requestRefresh();
+    host.clock()->advance(1);
+    requestRefresh();
+    requestRefresh();
     KyPal::Process::setFabric(false);
     EXPECT_EQ(spy.passes, 2) << "a request at the very time of the last pass is still held";
 }
@@ -79,8 +84,8 @@ TEST_F(RefreshThrottle, ReducedServiceModeHasNoGap) {
 TEST_F(RefreshThrottle, EveryRequestWritesBothNotifyMarks) {
     const int begins = KyPal::PerfLog::notifyEventCount(true);
     const int ends = KyPal::PerfLog::notifyEventCount(false);
-    requestRefresh(host);
-    requestRefresh(host);
+    requestRefresh();
+    requestRefresh();
     EXPECT_EQ(KyPal::PerfLog::notifyEventCount(true), begins + 2) << "held back passes too";
     EXPECT_EQ(KyPal::PerfLog::notifyEventCount(false), ends + 2);
 }
@@ -106,7 +111,7 @@ private:
     KyDiManagerReactor* m_next;
 };
 
-class PassReactors : public kytest::ManagerFixture {};
+class PassReactors : public kytest::RefHostFixture {};
 
 }  // namespace
 
@@ -120,13 +125,12 @@ TEST_F(PassReactors, EndMarkIsWrittenWhenAReactorThrowsOutOfThePass) {
 }
 
 TEST_F(PassReactors, SysVarReactorsAreToldBetweenStartAndEnd) {
-    host.editorService.setShort(L"LUPREC", 4);
     Lines lines;
     PassSpy pass(&lines);
     SysVarSpy luprec(KyDiManager::getSysVar(L"LUPREC"), &lines);
-    host.editorService.setShort(L"LUPREC", 6);
-    KyDiManager::refresh();
-    EXPECT_EQ(lines, (Lines{L"refreshStarting", L"valueChanged LUPREC 6", L"refreshEnded"}));
+    type(L"LUPREC\n6\n");
+    EXPECT_EQ(lines, (Lines{L"refreshStarting", L"valueChanged LUPREC 6", L"refreshEnded"}))
+        << "the pass the host asked for after the command";
 }
 
 TEST_F(PassReactors, ReactorAddedWhileThePassStartsIsToldInTheSamePass) {
@@ -146,16 +150,18 @@ void countCall() {
     ++g_handlerCalls;
 }
 
-class NotifyHandlers : public kytest::ManagerFixture {
+class NotifyHandlers : public kytest::RefHostFixture {
 protected:
+    NotifyHandlers() : RefHostFixture(onManualClock(), Drawing::kNone) {}
+
     void SetUp() override {
-        ManagerFixture::SetUp();
+        RefHostFixture::SetUp();
         g_handlerCalls = 0;
         KyUiAddNotifyHandler(countCall, true);
     }
     void TearDown() override {
         KyUiAddNotifyHandler(countCall, false);
-        ManagerFixture::TearDown();
+        RefHostFixture::TearDown();
     }
 };
 
@@ -164,13 +170,13 @@ protected:
 TEST_F(NotifyHandlers, AreCalledAtTheEndOfAPassOnlyWhileADocumentIsOpen) {
     KyDiManager::refresh();
     EXPECT_EQ(g_handlerCalls, 0);
-    host.documents.openDocument();
-    KyDiManager::refresh();
-    EXPECT_EQ(g_handlerCalls, 1);
+    host.documents().newDocument();
+    EXPECT_EQ(g_handlerCalls, 1) << "the pass the host asks for with the new drawing";
 }
 
 TEST_F(NotifyHandlers, AddedTwiceAndRemovedOnceLeavesOneCall) {
-    host.documents.openDocument();
+    host.documents().newDocument();
+    g_handlerCalls = 0;
     KyUiAddNotifyHandler(countCall, true);
     KyUiAddNotifyHandler(countCall, false);
     KyDiManager::refresh();
@@ -178,52 +184,62 @@ TEST_F(NotifyHandlers, AddedTwiceAndRemovedOnceLeavesOneCall) {
 }
 
 TEST_F(NotifyHandlers, AskTheHostsRawAnswerWhileADocumentIsDestroyed) {
-    const KyDiDocument document = host.documents.openDocument();
-    host.raise([document](KyDiHostReactor* r) { r->documentToBeDestroyed(document); });
-    EXPECT_EQ(g_handlerCalls, 1) << "the host still answers the dying document";
+    host.documents().newDocument();
+    g_handlerCalls = 0;
+    host.documents().closeAll();
+    EXPECT_EQ(g_handlerCalls, 1) << "the host still answers the closing drawing as current";
 }
 
 namespace {
 
-class EditingState : public kytest::ManagerFixture {
+// A layout of the drawing shown, its paper space viewport current.
+class EditingState : public kytest::RefHostFixture {
 protected:
-    void SetUp() override {
-        ManagerFixture::SetUp();
-        host.documents.openDocument(&database);
-        host.documents.working = &database;
-        database.setTilemode(false);
-        host.editorService.setShort(L"CVPORT", 1);
-    }
+    using RefHostFixture::RefHostFixture;
+
     short paperSpace() {
         KyDiManager::refresh();
         resbuf value{};
         EXPECT_EQ(KyDiManager::getSysVar(L"PAPERSPACE")->getValue(value), Kyro::eOk);
         return value.resval.rint;
     }
+};
 
-    KyDbDatabase database;
+class EditingStateWithoutEditor : public EditingState {
+protected:
+    EditingStateWithoutEditor() : EditingState(withoutEditor()) {}
 };
 
 }  // namespace
 
 TEST_F(EditingState, PaperSpaceIsTheLayoutsPaperViewport) {
+    EXPECT_EQ(paperSpace(), 0) << "a new drawing shows model space";
+    type(L"CTAB\nLayout1\n");
+    ASSERT_EQ(hostValue(L"CVPORT"), L"1");
     EXPECT_EQ(paperSpace(), 1);
-    host.editorService.setShort(L"CVPORT", 2);
+    type(L"CVPORT\n2\n");
     EXPECT_EQ(paperSpace(), 0) << "a floating viewport of the layout is current";
 }
 
 TEST_F(EditingState, ModelSpaceIsNeverPaperSpaceWhateverTheViewportSays) {
-    database.setTilemode(true);
+    type(L"TILEMODE\n0\nTILEMODE\n1\nCVPORT\n1\n");
+    ASSERT_EQ(hostValue(L"TILEMODE"), L"1");
+    ASSERT_EQ(hostValue(L"CVPORT"), L"1");
     EXPECT_EQ(paperSpace(), 0);
 }
 
-TEST_F(EditingState, UnreadableViewportCountsAsModelSpace) {
-    host.editorService.setText(L"CVPORT", L"1");
+TEST_F(EditingState, ClosingTheDrawingLeavesPaperSpace) {
+    type(L"TILEMODE\n0\n");
+    EXPECT_EQ(paperSpace(), 1);
+    host.documents().closeAll();
     EXPECT_EQ(paperSpace(), 0);
-    host.documents.working = nullptr;
-    host.editorService.setShort(L"CVPORT", 1);
-    EXPECT_EQ(paperSpace(), 0) << "no working database";
-    host.documents.working = &database;
-    host.withEditor = false;
-    EXPECT_EQ(paperSpace(), 0) << "no editor service";
+}
+
+TEST_F(EditingStateWithoutEditor, ViewportCanNotBeReadAndCountsAsModelSpace) {
+    {
+        const KyAxDocLock lock;
+        ASSERT_EQ(host.setVariable(L"TILEMODE", kytest::shortValue(0)), KyRefSysVarStatus::kOk);
+    }
+    ASSERT_EQ(hostValue(L"CVPORT"), L"1");
+    EXPECT_EQ(paperSpace(), 0);
 }

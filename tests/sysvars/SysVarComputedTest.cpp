@@ -47,17 +47,19 @@ public:
 
 TEST_F(ComputedSysVars, ZeroDocFollowsTheOpenDocuments) {
     SysVarSpy spy(sysVar(L"ZERODOC"));
-    host.documents.closeAll();
+    host.documents().closeAll();
+    EXPECT_TRUE(spy.lines.empty()) << "the closing drawing still counts in the pass it runs";
     KyDiManager::refresh();
-    host.documents.openDocument();
-    KyDiManager::refresh();
-    EXPECT_EQ(spy.lines, (Lines{L"valueChanged ZERODOC 1", L"valueChanged ZERODOC 0"}));
+    host.documents().newDocument();
+    EXPECT_EQ(spy.lines, (Lines{L"valueChanged ZERODOC 1", L"valueChanged ZERODOC 0"}))
+        << "the second through the pass the host asks for with the new drawing";
 }
 
 TEST_F(ComputedSysVars, DisplayedWhiteIsWhatIndexSevenShows) {
     EXPECT_EQ(valueOf(L"DISPLAYEDWHITECOLOR"), L"7,0,0") << "no colour service of the host";
 
     ServicesWithColors services(0xC2000000u);
+    services.setWorkingDatabase(host.documents().currentDatabase());
     kydbSetHostApplicationServices(&services);
     KyDiManager::refresh();
     EXPECT_EQ(valueOf(L"DISPLAYEDWHITECOLOR"), L"0,0,0") << "black on a light background";
@@ -72,6 +74,6 @@ TEST_F(ComputedSysVars, ExternalReferenceBackgroundNamesItsColour) {
 }
 
 TEST_F(ComputedSysVars, PlotStyleIsReadAsTheHostGivesIt) {
-    host.editorService.setText(L"CPLOTSTYLE", L"ByLayer");
+    EXPECT_EQ(hostValue(L"CPLOTSTYLE"), L"ByLayer");
     EXPECT_EQ(valueOf(L"CPLOTSTYLE"), L"ByLayer");
 }

@@ -4,8 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "kydi/KyDiManager.h"
-#include "manager/RecordingReactors.h"
-#include "manager/RefHostFixture.h"
 #include "sysvars/SysVarFixture.h"
 
 namespace {
@@ -15,21 +13,7 @@ using kytest::shortValue;
 using kytest::SysVarSpy;
 using kytest::textValue;
 
-class SysVarEndToEnd : public kytest::RefHostFixture {
-protected:
-    std::wstring valueOf(const wchar_t* name) {
-        resbuf value{};
-        if (KyDiManager::getSysVar(name)->getValue(value) != Kyro::eOk) {
-            return L"none";
-        }
-        return kytest::valueText(&value);
-    }
-    std::wstring hostValue(const wchar_t* name) {
-        KyRefResbufPtr value;
-        host.sysVars().get(name, value);
-        return kytest::valueText(value.get());
-    }
-};
+class SysVarEndToEnd : public kytest::SysVarFixture {};
 
 }  // namespace
 
@@ -82,18 +66,6 @@ TEST_F(SysVarEndToEnd, RefusedTextValueIsNotCancelled) {
     host.idle();
     EXPECT_FALSE(host.editor()->interpreter().isWaiting());
     EXPECT_EQ(hostValue(L"CLAYER"), L"0");
-}
-
-TEST_F(SysVarEndToEnd, DirectSetWritesTheDrawingUnderTheLayersOwnLock) {
-    SysVarSpy spy(KyDiManager::getSysVar(L"LUPREC"));
-    ASSERT_EQ(KyDiManager::getSysVar(L"LUPREC")->setValue(shortValue(6), false), Kyro::eOk);
-    EXPECT_EQ(hostValue(L"LUPREC"), L"6") << "at once, without a command";
-    EXPECT_TRUE(sentTexts().empty());
-    EXPECT_EQ(KyDiManager::getSysVar(L"LUPREC")->setValue(shortValue(9), false),
-              Kyro::eInvalidInput)
-        << "out of the host's range";
-    KyDiManager::refresh();
-    EXPECT_EQ(spy.lines, (Lines{L"valueChanged LUPREC 6"}));
 }
 
 TEST_F(SysVarEndToEnd, SkyInModelSpaceSwitchesPerspectiveOnFirst) {

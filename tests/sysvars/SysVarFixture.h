@@ -1,45 +1,19 @@
-// A started layer over a fake host with one open document and a few of the
-// host's variables, and helpers that build values.
+// A started layer over the reference host with one new drawing, and helpers
+// that get a variable and read it as a client does.
 #pragma once
 
+#include <string>
+
 #include "kydi/KyDiSysVar.h"
-#include "manager/ManagerFixture.h"
 #include "manager/RecordingReactors.h"
+#include "manager/RefHostFixture.h"
+#include "manager/ResbufValues.h"
 
 namespace kytest {
 
-inline resbuf shortValue(short value) {
-    resbuf record{};
-    record.restype = KYRB_SHORT;
-    record.resval.rint = value;
-    return record;
-}
-
-inline resbuf realValue(double value, short code = KYRB_REAL) {
-    resbuf record{};
-    record.restype = code;
-    record.resval.rreal = value;
-    return record;
-}
-
-inline resbuf textValue(const wchar_t* text) {
-    resbuf record{};
-    record.restype = KYRB_STRING;
-    record.resval.rstring = const_cast<wchar_t*>(text);
-    return record;
-}
-
-class SysVarFixture : public ManagerFixture {
+class SysVarFixture : public RefHostFixture {
 protected:
-    void SetUp() override {
-        ManagerFixture::SetUp();
-        document = host.documents.openDocument();
-        FakeEditor& editor = host.editorService;
-        editor.setShort(L"LUPREC", 4);
-        editor.limit(L"LUPREC", 0, 8);
-        editor.setText(L"TEXTSTYLE", L"Standard");
-        editor.setReal(L"FILLETRAD", 0.0);
-    }
+    using RefHostFixture::RefHostFixture;
 
     KyDiSysVar* sysVar(const wchar_t* name) {
         KyDiSysVar* found = KyDiManager::getSysVar(name);
@@ -54,9 +28,6 @@ protected:
         }
         return valueText(&value);
     }
-    std::vector<std::wstring>& commands() { return host.editorService.commands; }
-
-    KyDiDocument document = kKyDiNoDocument;
 };
 
 }  // namespace kytest

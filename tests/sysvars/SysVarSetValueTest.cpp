@@ -3,17 +3,15 @@
 // counts from the next pass. Each class of variable has its own rules.
 #include <gtest/gtest.h>
 
-#include "db/KyDbDatabase.h"
-#include "db/KyDbHostApplicationServices.h"
 #include "kydi/KyDiManager.h"
-#include "pal/KyPal.h"
-#include "rx/KyRxVariablesDictionary.h"
+#include "sysvars/EditorLosingFixture.h"
 #include "sysvars/SysVarFixture.h"
 
 namespace {
 
 using kytest::Lines;
 using kytest::shortValue;
+using kytest::SysVarSpy;
 using kytest::textValue;
 
 class SysVarByCommand : public kytest::SysVarFixture {};
@@ -21,125 +19,115 @@ class SysVarByCommand : public kytest::SysVarFixture {};
 }  // namespace
 
 TEST_F(SysVarByCommand, EqualValueIsNoChange) {
+    SysVarSpy spy(sysVar(L"LUPREC"));
     EXPECT_EQ(sysVar(L"LUPREC")->setValue(shortValue(4), true), Kyro::eOk);
     EXPECT_EQ(sysVar(L"TEXTSTYLE")->setValue(textValue(L"STANDARD"), true), Kyro::eOk);
     EXPECT_EQ(sysVar(L"FILLETRAD")->setValue(kytest::realValue(0.0000005), false), Kyro::eOk);
-    EXPECT_TRUE(commands().empty());
-    EXPECT_TRUE(host.editorService.prompts.empty());
+    EXPECT_TRUE(sentTexts().empty());
+    EXPECT_EQ(hostValue(L"FILLETRAD"), L"0");
+    EXPECT_EQ(valueOf(L"LUPREC"), L"4") << "nothing was dropped";
 }
 
 TEST_F(SysVarByCommand, ValuesAreTypedAsTheHostReadsThem) {
-    host.editorService.setPoint(L"SNAPBASE", 0.0, 0.0);
-    host.editorService.setReal(L"SNAPANG", 0.0, KYRB_ANGLE);
-    resbuf point{};
-    point.restype = KYRB_POINT;
-    point.resval.rpoint[0] = 1.5;
-    point.resval.rpoint[1] = -2.0;
     sysVar(L"FILLETRAD")->setValue(kytest::realValue(2.5), true);
-    sysVar(L"SNAPBASE")->setValue(point, true);
-    sysVar(L"SNAPANG")->setValue(kytest::realValue(0.25, KYRB_ANGLE), true);
-    sysVar(L"TEXTSTYLE")->setValue(textValue(L"Notes"), true);
-    EXPECT_EQ(commands(), (Lines{L"'FILLETRAD 2.500000\n", L"'SNAPBASE 1.500000,-2.000000\n",
-                                 L"'SNAPANG 0.250000\n", L"'TEXTSTYLE \"Notes\"\n"}));
+    sysVar(L"SNAPBASE")->setValue(kytest::pointValue(1.5, -2.0), true);
+    sysVar(L"SNAPANG")->setValue(kytest::realValue(0.25, KYRB_ORIENT), true);
+    sysVar(L"HPNAME")->setValue(textValue(L"ANSI37"), true);
+    EXPECT_EQ(sentTexts(), (Lines{L"'FILLETRAD 2.500000\n", L"'SNAPBASE 1.500000,-2.000000\n",
+                                  L"'SNAPANG 0.250000\n", L"'HPNAME \"ANSI37\"\n"}));
+
+    host.idle();
+    EXPECT_EQ(hostValue(L"FILLETRAD"), L"2.5");
+    EXPECT_EQ(hostValue(L"SNAPBASE"), L"(1.5,-2)");
+    EXPECT_EQ(hostValue(L"SNAPANG"), L"0.25");
+    EXPECT_EQ(hostValue(L"HPNAME"), L"ANSI37");
 }
 
-TEST_F(SysVarByCommand, CancelOnlyWhenNoOtherCommandRunsAndOnlyForShorts) {
-    host.editorService.setText(L"CMDNAMES", L"setvar");
+TEST_F(SysVarByCommand, ShortIsCancelledWhileOnlySetVarWaits) {
+    type(L"SETVAR\n");
+    ASSERT_EQ(host.commandNames(), KyString(L"SETVAR"));
     sysVar(L"LUPREC")->setValue(shortValue(12), true);
-    host.editorService.setText(L"CMDNAMES", L"LINE");
-    sysVar(L"LUPREC")->setValue(shortValue(13), true);
-    host.editorService.setText(L"CMDNAMES", L"");
-    sysVar(L"TEXTSTYLE")->setValue(textValue(L"Missing"), true);
-    EXPECT_EQ(commands(),
-              (Lines{L"'LUPREC 12\n", L"\x03", L"'LUPREC 13\n", L"'TEXTSTYLE \"Missing\"\n"}));
+    EXPECT_EQ(sentTexts(), (Lines{L"'LUPREC 12\n", L"\x03"}));
+    host.idle();
+    EXPECT_EQ(commandLine(), (Lines{L"Command: SETVAR", L"Enter variable name: 'LUPREC",
+                                    L">>Enter new value for LUPREC <4>: 12",
+                                    L"Requires an integer between 0 and 8.",
+                                    L">>Enter new value for LUPREC <4>: *Cancel*"}));
+    EXPECT_FALSE(host.editor()->interpreter().isWaiting());
+    EXPECT_EQ(hostValue(L"LUPREC"), L"4");
+}
+
+TEST_F(SysVarByCommand, ShortIsNotCancelledWhileAnotherCommandWaits) {
+    type(L"ERASE\n");
+    ASSERT_EQ(host.commandNames(), KyString(L"ERASE"));
+    sysVar(L"LUPREC")->setValue(shortValue(6), true);
+    EXPECT_EQ(sentTexts(), (Lines{L"'LUPREC 6\n"}));
+    host.idle();
+    EXPECT_EQ(commandLine(), (Lines{L"Command: ERASE", L"Select objects: 'LUPREC",
+                                    L">>Enter new value for LUPREC <4>: 6", L"Select objects: "}));
+    EXPECT_TRUE(host.editor()->interpreter().isWaiting()) << "the command goes on";
+    type(L"\n");
+    EXPECT_EQ(hostValue(L"LUPREC"), L"6") << "taken with the command around it";
 }
 
 namespace {
 
-// Host services that grant document locks and count them.
-class CountingLocks final : public KyDbHostApplicationServices {
-public:
-    Kyro::ErrorStatus lockDocument(KyDbDatabase*) override {
-        ++held;
-        return Kyro::eOk;
-    }
-    void unlockDocument(KyDbDatabase*) override { --held; }
-    int held = 0;
-};
-
-class SysVarDirect : public kytest::SysVarFixture {
-protected:
-    void SetUp() override {
-        SysVarFixture::SetUp();
-        kydbSetHostApplicationServices(&locks);
-        locks.setWorkingDatabase(&database);
-    }
-    void TearDown() override {
-        kydbSetHostApplicationServices(nullptr);
-        SysVarFixture::TearDown();
-    }
-
-    KyDbDatabase database;
-    CountingLocks locks;
-};
+class SysVarDirect : public kytest::SysVarFixture {};
 
 }  // namespace
 
-TEST_F(SysVarDirect, WriteStandsInsideTheDocumentLockAndClosesThePromptLine) {
-    int heldDuringWrite = -1;
-    host.editorService.onSetVar = [&](const wchar_t*) { heldDuringWrite = locks.held; };
+TEST_F(SysVarDirect, WriteStandsInsideTheLayersOwnDocumentLock) {
+    SysVarSpy spy(sysVar(L"LUPREC"));
     ASSERT_EQ(sysVar(L"LUPREC")->setValue(shortValue(6), false), Kyro::eOk);
-    EXPECT_EQ(heldDuringWrite, 1);
-    EXPECT_EQ(locks.held, 0);
-    EXPECT_EQ(host.editorService.prompts, (Lines{L""}));
-    EXPECT_TRUE(commands().empty());
-    EXPECT_EQ(kytest::valueText(host.editorService.variable(L"LUPREC")), L"6");
-}
+    EXPECT_EQ(hostValue(L"LUPREC"), L"6") << "at once, without a command";
+    EXPECT_TRUE(sentTexts().empty());
+    EXPECT_EQ(host.setVariable(L"LUPREC", shortValue(5)), KyRefSysVarStatus::kRefused)
+        << "the lock went with the write";
 
-TEST_F(SysVarDirect, RefusedWriteLeavesNoValueUntilTheNextPass) {
-    EXPECT_EQ(sysVar(L"LUPREC")->setValue(shortValue(12), false), Kyro::eInvalidInput);
-    EXPECT_EQ(valueOf(L"LUPREC"), L"none");
+    EXPECT_EQ(sysVar(L"LUPREC")->setValue(shortValue(9), false), Kyro::eInvalidInput)
+        << "out of the host's range";
+    EXPECT_EQ(valueOf(L"LUPREC"), L"none") << "no value until the next pass";
     KyDiManager::refresh();
-    EXPECT_EQ(valueOf(L"LUPREC"), L"4");
+    EXPECT_EQ(spy.lines, (Lines{L"valueChanged LUPREC 6"}));
 }
 
-TEST_F(SysVarDirect, WithoutAnEditorOnlyTheCommandRoadAnswersAndNothingIsSent) {
+TEST_F(SysVarDirect, WriteEndsThePromptLineStandingOnTheCommandLine) {
+    type(L"ERASE\n");
+    ASSERT_EQ(sysVar(L"LUPREC")->setValue(shortValue(6), false), Kyro::eOk);
+    type(L"x\n");
+    EXPECT_EQ(commandLine(), (Lines{L"Command: ERASE", L"Select objects: ", L"x",
+                                    L"*Invalid selection*", L"Select objects: "}))
+        << "what the user types next stands on a line of its own";
+}
+
+namespace {
+
+class SysVarWithoutEditor : public kytest::EditorLosingFixture {};
+
+}  // namespace
+
+TEST_F(SysVarWithoutEditor, OnlyTheCommandRoadAnswersAndNothingIsSent) {
     KyDiSysVar* luprec = sysVar(L"LUPREC");
-    host.withEditor = false;
+    detachEditor();
     EXPECT_EQ(luprec->setValue(shortValue(6), false), Kyro::eInvalidInput);
     EXPECT_EQ(luprec->setValue(shortValue(7), true), Kyro::eOk);
-    EXPECT_TRUE(commands().empty());
+    EXPECT_TRUE(sentTexts().empty());
+    EXPECT_EQ(hostValue(L"LUPREC"), L"4");
 }
 
 namespace {
 
 class SysVarRules : public kytest::SysVarFixture {};
 
-// The host's own variable object behind a read-only variable; it notes who
-// wrote it.
-class HostVariable final : public KyRxVariable {
-public:
-    using KyRxVariable::KyRxVariable;
-    const void* lastSender = nullptr;
-
-protected:
-    Kyro::ErrorStatus subSetValue(const resbuf& value, void* sender, KyString* error,
-                                  bool disableUndo) override {
-        lastSender = sender;
-        return KyRxVariable::subSetValue(value, sender, error, disableUndo);
-    }
-};
-
 }  // namespace
 
 TEST_F(SysVarRules, NoDocumentRefusesWrites) {
-    host.editorService.setText(L"CTAB", L"Model");
     KyDiSysVar* luprec = sysVar(L"LUPREC");
     KyDiSysVar* ctab = sysVar(L"CTAB");
-    host.documents.closeAll();
+    host.documents().closeAll();
     EXPECT_EQ(luprec->setValue(shortValue(6), true), Kyro::eNoCurrentDocument);
     EXPECT_EQ(ctab->setValue(textValue(L"Layout1"), false), Kyro::eCannotSetSysVar);
-    EXPECT_TRUE(commands().empty());
+    EXPECT_TRUE(sentTexts().empty());
 }
 
 TEST_F(SysVarRules, ComputedVariablesTakeNoWrites) {
@@ -151,53 +139,41 @@ TEST_F(SysVarRules, ComputedVariablesTakeNoWrites) {
 }
 
 TEST_F(SysVarRules, HatchLayerIsOnlySetByCommandWithTheNameAsTyped) {
-    host.editorService.setText(L"HPLAYER", L".");
     KyDiSysVar* hpLayer = sysVar(L"HPLAYER");
     EXPECT_EQ(hpLayer->setValue(textValue(L"Hatches"), false), Kyro::eInvalidInput);
     EXPECT_EQ(hpLayer->setValue(shortValue(1), true), Kyro::eInvalidInput);
     EXPECT_EQ(hpLayer->setValue(textValue(L"Hatches"), true), Kyro::eOk);
-    EXPECT_EQ(commands(), (Lines{L"'HPLAYER Hatches\n"}));
-    host.documents.closeAll();
+    EXPECT_EQ(sentTexts(), (Lines{L"'HPLAYER Hatches\n"}));
+    host.idle();
+    EXPECT_EQ(hostValue(L"HPLAYER"), L"Hatches");
+
+    host.documents().closeAll();
     EXPECT_EQ(hpLayer->setValue(textValue(L"Other"), true), Kyro::eNoCurrentDocument);
 }
 
-TEST_F(SysVarRules, ReadOnlyVariableIsWrittenToTheHostsVariableObject) {
-    KyRxVariablesDictionary variables;
-    auto* hatchType = new HostVariable(L"HATCHTYPE");
-    variables.addVariable(hatchType);
-    KyRxVariablesDictionary::install(&variables);
-    host.editorService.setShort(L"HATCHTYPE", 1);
-    host.editorService.setShort(L"HPRELATIVEPS", 0);
-
+TEST_F(SysVarRules, ReadOnlyVariableIsWrittenThroughTheHostsVariableObject) {
     EXPECT_EQ(sysVar(L"HATCHTYPE")->setValue(shortValue(2), true), Kyro::eOk);
-    ASSERT_NE(hatchType->value(), nullptr);
-    EXPECT_EQ(hatchType->value()->resval.rint, 2);
-    EXPECT_EQ(hatchType->lastSender, KyPal::PluginLoader::mainModuleId());
-    EXPECT_TRUE(commands().empty()) << "never by command";
-    EXPECT_EQ(sysVar(L"HPRELATIVEPS")->setValue(shortValue(1), false), Kyro::eInvalidInput)
-        << "the host has no variable object of that name";
-    KyRxVariablesDictionary::install(nullptr);
+    EXPECT_EQ(hostValue(L"HATCHTYPE"), L"2") << "at once";
+    EXPECT_TRUE(sentTexts().empty()) << "never by command";
+    EXPECT_EQ(sysVar(L"HATCHBOUNDSET")->setValue(shortValue(3), false), Kyro::eInvalidInput)
+        << "the host's variable object refuses a value out of its range";
+    EXPECT_EQ(hostValue(L"HATCHBOUNDSET"), L"0");
 }
 
 TEST_F(SysVarRules, SkyTriesPerspectiveEvenWithoutADocument) {
-    host.editorService.setShort(L"SKYSTATUS", 0);
-    host.editorService.setShort(L"PERSPECTIVE", 0);
     KyDiSysVar* sky = sysVar(L"SKYSTATUS");
-    KyDiSysVar* perspective = sysVar(L"PERSPECTIVE");
-    host.documents.closeAll();
+    ASSERT_NE(sysVar(L"PERSPECTIVE"), nullptr);
+    host.documents().closeAll();
     EXPECT_EQ(sky->setValue(shortValue(2), true), Kyro::eCannotSetSysVar);
     EXPECT_EQ(valueOf(L"PERSPECTIVE"), L"none") << "its set was tried, and refused";
-    EXPECT_NE(perspective, nullptr);
 }
 
 TEST_F(SysVarRules, SkyInPaperSpaceLeavesPerspectiveAlone) {
-    KyDbDatabase layout;
-    layout.setTilemode(false);
-    host.documents.working = &layout;
-    host.editorService.setShort(L"CVPORT", 1);
-    host.editorService.setShort(L"SKYSTATUS", 0);
+    type(L"CTAB\nLayout1\n");
     KyDiManager::refresh();
     EXPECT_EQ(sysVar(L"SKYSTATUS")->setValue(shortValue(2), true), Kyro::eOk);
-    EXPECT_EQ(commands(), (Lines{L"'SKYSTATUS 2\n"}));
-    host.documents.working = nullptr;
+    EXPECT_EQ(sentTexts(), (Lines{L"'SKYSTATUS 2\n", L"\x03"}));
+    host.idle();
+    EXPECT_EQ(hostValue(L"SKYSTATUS"), L"2");
+    EXPECT_EQ(hostValue(L"PERSPECTIVE"), L"0");
 }
