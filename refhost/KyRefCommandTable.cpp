@@ -1,12 +1,25 @@
 #include "KyRefCommandTable.h"
 
+#include "KyRefChPropCommand.h"
+#include "KyRefCircleCommand.h"
+#include "KyRefDimStyleCommand.h"
 #include "KyRefEraseCommand.h"
+#include "KyRefInsertCommand.h"
 #include "KyRefLanguage.h"
+#include "KyRefLayerCommand.h"
+#include "KyRefLineCommand.h"
+#include "KyRefOptChPropCommand.h"
+#include "KyRefPointCommand.h"
 #include "KyRefRedoCommand.h"
 #include "KyRefSelectCommand.h"
 #include "KyRefSetVarCommand.h"
+#include "KyRefTextCommand.h"
 #include "KyRefUCommand.h"
+#include "KyRefUcsCommand.h"
 #include "KyRefUndoCommand.h"
+#include "KyRefVpLayerCommand.h"
+#include "KyRefVsCurrentCommand.h"
+#include "KyRefXAttachCommand.h"
 
 namespace {
 
@@ -14,13 +27,27 @@ using Table = KyRefCommandTable;
 
 // Global name, local name (the host's second language), flags, maker.
 const KyRefCommandRow kRows[] = {
+    {L"-DIMSTYLE", L"-BEMSTIL", 0, &Table::make<KyRefDimStyleCommand>},
+    {L"-INSERT", L"-EINFUEGE", 0, &Table::make<KyRefInsertCommand>},
+    {L"-LAYER", L"-EBENE", kCommandTransparent, &Table::make<KyRefLayerCommand>},
+    {L"-XATTACH", L"-XZUORDNEN", 0, &Table::make<KyRefXAttachCommand>},
+    {L"CHPROP", L"EIGAENDR", 0, &Table::make<KyRefChPropCommand>},
+    {L"CIRCLE", L"KREIS", 0, &Table::make<KyRefCircleCommand>},
     {L"ERASE", L"LOESCHEN", 0, &Table::make<KyRefEraseCommand>},
+    {L"LINE", L"LINIE", 0, &Table::make<KyRefLineCommand>},
+    {L"OPTCHPROP", L"OPTEIGAENDR", 0, &Table::make<KyRefOptChPropCommand>},
+    {L"POINT", L"PUNKT", 0, &Table::make<KyRefPointCommand>},
     {L"REDO", L"WIEDERHERSTELLEN", 0, &Table::make<KyRefRedoCommand>},
     {L"SELECT", L"WAEHLEN", 0, &Table::make<KyRefSelectCommand>},
     {L"SETVAR", L"VARSETZEN", kCommandTransparent | kCommandWithoutDocument,
      &Table::make<KyRefSetVarCommand>},
+    {L"TEXT", L"TEXT", 0, &Table::make<KyRefTextCommand>},
     {L"U", L"Z", 0, &Table::make<KyRefUCommand>},
+    {L"UCS", L"BKS", 0, &Table::make<KyRefUcsCommand>},
     {L"UNDO", L"ZURUECK", 0, &Table::make<KyRefUndoCommand>},
+    {L"VPLAYER", L"AFEBENE", kCommandTransparent, &Table::make<KyRefVpLayerCommand>},
+    {L"VSCURRENT", L"VSAKTUELL", 0, &Table::make<KyRefVsCurrentCommand>},
+    {L"XATTACH", L"XZUORDNEN", 0, &Table::make<KyRefXAttachCommand>},
 };
 
 }  // namespace

@@ -90,9 +90,7 @@ KyRefDocument* KyRefDocumentManager::openDocument(const wchar_t* path, KyString&
             readError.isEmpty() ? KyString::formatted(L"Cannot read \"%ls\".", path) : readError;
         return nullptr;
     }
-    KyRefDocument* document = adopt(std::move(database), L"", path);
-    document->setPath(path);
-    return document;
+    return adopt(std::move(database), L"", path);
 }
 
 KyRefDocument* KyRefDocumentManager::addDocument(std::unique_ptr<KyDbDatabase> database,
@@ -114,6 +112,11 @@ KyRefDocument* KyRefDocumentManager::adopt(std::unique_ptr<KyDbDatabase> databas
     m_documents.push_back(
         std::make_unique<KyRefDocument>(m_host, handle, std::move(database), name, path));
     KyRefDocument* document = m_documents.back().get();
+    // A drawing without a name of its own is shown under its file's name
+    // before it becomes current: what hears of the switch reads it.
+    if (document->name().isEmpty() && path != nullptr && path[0] != L'\0') {
+        document->setPath(path);
+    }
     document->noteCommandEnd();
     setCurrent(document);
     m_host.events().raiseRefreshNeeded(true);

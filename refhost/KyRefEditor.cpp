@@ -1,5 +1,7 @@
 #include "KyRefEditor.h"
 
+#include <algorithm>
+
 #include "KyRefCommandLine.h"
 #include "KyRefCommandScope.h"
 #include "KyRefCommandTable.h"
@@ -43,6 +45,11 @@ Kyro::ErrorStatus KyRefEditor::sendCommand(const wchar_t* text, bool flag1, bool
 int KyRefEditor::getVar(const wchar_t* name, resbuf* out) {
     if (out == nullptr) {
         return KYRT_ERROR;
+    }
+    if (name != nullptr &&
+        std::none_of(m_variablesAsked.begin(), m_variablesAsked.end(),
+                     [name](const KyString& asked) { return asked.compareNoCase(name) == 0; })) {
+        m_variablesAsked.emplace_back(name);
     }
     KyRefResbufPtr value;
     const KyRefSysVarStatus status = m_host.sysVars().get(name, value);

@@ -57,6 +57,9 @@ public:
     // Every text sent, in order, with its flags.
     const std::vector<SentCommand>& sentCommands() const { return m_sent; }
     std::vector<SentCommand> takeSentCommands();
+    // The names of the variables asked for through getVar, each once, in the
+    // order first asked and the spelling first used.
+    const std::vector<KyString>& variablesAsked() const { return m_variablesAsked; }
     // Closes, without events, the named scopes left open on `document`,
     // which is closing.
     void closeScopes(KyRefDocument& document);
@@ -71,5 +74,6 @@ private:
     KyRefCommandInterpreter m_interpreter;
     std::vector<Scope> m_scopes;
     std::vector<SentCommand> m_sent;
+    std::vector<KyString> m_variablesAsked;
     KyString m_localName;
 };

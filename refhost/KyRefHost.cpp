@@ -103,7 +103,8 @@ void KyRefHost::raiseVariableChanges(const std::vector<KyString>& names) {
     for (const KyString& name : names) {
         m_events.raiseSysVarChanged(name, true);
         layout = layout || name.compareNoCase(L"CTAB") == 0;
-        ucs = ucs || name.compareNoCase(L"UCSNAME") == 0;
+        ucs = ucs || name.compareNoCase(L"UCSNAME") == 0 || name.compareNoCase(L"UCSORG") == 0 ||
+              name.compareNoCase(L"UCSXDIR") == 0 || name.compareNoCase(L"UCSYDIR") == 0;
     }
     if (layout) {
         m_events.raiseLayoutChanged();

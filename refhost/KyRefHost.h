@@ -11,7 +11,8 @@
 // sysVarChanged(name, true) for every variable whose value changed by it (a
 // refused write: sysVarChanged(name, false)). Inside a command the changes
 // are told once, when the command ends. A change of CTAB is followed by
-// layoutChanged, of UCSNAME by ucsChanged.
+// layoutChanged, of the current UCS (UCSNAME, UCSORG, UCSXDIR, UCSYDIR) by
+// one ucsChanged.
 #pragma once
 
 #include <memory>

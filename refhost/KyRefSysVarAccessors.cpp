@@ -6,6 +6,7 @@
 #include "KyRefDocument.h"
 #include "KyRefDocumentManager.h"
 #include "KyRefHost.h"
+#include "KyRefNamedItem.h"
 #include "KyRefReadAccess.h"
 #include "KyRefReservedWords.h"
 #include "KyRefSysVarStore.h"
@@ -52,45 +53,11 @@ struct CurrentItem {
     KyDbObjectId (KyDbDatabase::*container)() const;
 };
 
-// The name of `id` in `container`: a record's name, or a dictionary key.
-KyString itemName(KyDbObjectId container, KyDbObjectId id) {
-    if (id.isNull()) {
-        return KyString();
-    }
-    KyRefReadAccess<KyDbObject> owner(container);
-    if (!owner) {
-        return KyString();
-    }
-    if (kyrxCast<KyDbSymbolTable>(owner.object()) != nullptr) {
-        KyRefReadAccess<KyDbSymbolTableRecord> record(id, true);
-        return record ? record->name() : KyString();
-    }
-    KyString key;
-    if (const auto* dictionary = kyrxCast<KyDbDictionary>(owner.object())) {
-        dictionary->nameAt(id, key);
-    }
-    return key;
-}
-
-// The record or entry of `container` named `name` (not erased); null if none.
-KyDbObjectId itemNamed(KyDbObjectId container, const wchar_t* name) {
-    KyDbObjectId id;
-    KyRefReadAccess<KyDbObject> owner(container);
-    if (!owner) {
-        return id;
-    }
-    if (const auto* table = kyrxCast<KyDbSymbolTable>(owner.object())) {
-        table->getAt(name, id);
-    } else if (const auto* dictionary = kyrxCast<KyDbDictionary>(owner.object())) {
-        dictionary->getAt(name, id);
-    }
-    return id;
-}
-
 Status getCurrentItem(const Access& access, KyRefResbufPtr& out) {
     const auto* item = static_cast<const CurrentItem*>(access.row.accessor->data);
     KyDbDatabase* db = access.database;
-    out = KyRefResbuf::makeString(itemName((db->*item->container)(), (db->*item->get)()));
+    out = KyRefResbuf::makeString(
+        KyRefNamedItem::nameOf((db->*item->container)(), (db->*item->get)()));
     return Status::kOk;
 }
 
@@ -98,7 +65,7 @@ Status setCurrentItem(const Access& access, const resbuf& value, KyString& error
     const auto* item = static_cast<const CurrentItem*>(access.row.accessor->data);
     KyDbDatabase* db = access.database;
     const KyString name = textOf(value);
-    const KyDbObjectId id = itemNamed((db->*item->container)(), name);
+    const KyDbObjectId id = KyRefNamedItem::find((db->*item->container)(), name);
     if (id.isNull()) {
         error.format(L"Cannot find %ls \"%ls\".", item->what, name.kwszPtr());
         return Status::kInvalidValue;
@@ -233,7 +200,7 @@ Status checkPlotStyle(const Access& access, const resbuf& value, KyString& error
     const KyString name = textOf(value);
     if (KyRefReservedWords::matches(name, KyRefReservedWords::kByLayer) ||
         KyRefReservedWords::matches(name, KyRefReservedWords::kByBlock) ||
-        !itemNamed(access.database->plotStyleNameDictionaryId(), name).isNull()) {
+        !KyRefNamedItem::find(access.database->plotStyleNameDictionaryId(), name).isNull()) {
         return Status::kOk;
     }
     error.format(L"Cannot find plot style \"%ls\".", name.kwszPtr());

@@ -1,6 +1,6 @@
 #include "db/KyDbHostApplicationServices.h"
 
-short gLineWeightUnits = 0;
+short gLineWeightUnits = 1;
 
 namespace {
 

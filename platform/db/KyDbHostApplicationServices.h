@@ -40,5 +40,6 @@ KYPLATFORM_API KyDbHostApplicationServices* kydbHostApplicationServices();
 // installed). Null puts the platform's own back.
 KYPLATFORM_API void kydbSetHostApplicationServices(KyDbHostApplicationServices* services);
 
-// The units in which lineweights are shown: 0 millimetres, 1 inches.
+// The units in which lineweights are shown: 0 inches, any other value
+// millimetres (the setting at start).
 extern KYPLATFORM_API short gLineWeightUnits;

@@ -66,6 +66,16 @@ Kyro::ErrorStatus KyDbSymbolTable::add(KyDbSymbolTableRecord* record) {
 
 Kyro::ErrorStatus KyDbSymbolTable::add(KyDbObjectId& id, KyDbSymbolTableRecord* record,
                                        KyDbHandle handle) {
+    return insert(id, record, handle, true);
+}
+
+Kyro::ErrorStatus KyDbSymbolTable::addWithoutNotice(KyDbObjectId& id, KyDbSymbolTableRecord* record,
+                                                    KyDbHandle handle) {
+    return insert(id, record, handle, false);
+}
+
+Kyro::ErrorStatus KyDbSymbolTable::insert(KyDbObjectId& id, KyDbSymbolTableRecord* record,
+                                          KyDbHandle handle, bool announce) {
     if (const Kyro::ErrorStatus status = checkCanOwn(record); status != Kyro::eOk) {
         return status;
     }
@@ -80,13 +90,25 @@ Kyro::ErrorStatus KyDbSymbolTable::add(KyDbObjectId& id, KyDbSymbolTableRecord* 
         return Kyro::eDuplicateRecordName;
     }
     KyDbObjectId newId;
-    if (const Kyro::ErrorStatus status = appendOwned(record, handle, newId); status != Kyro::eOk) {
+    Kyro::ErrorStatus status = Kyro::eOk;
+    if (announce) {
+        status = appendOwned(record, handle, newId);
+    } else if (status = KyDbObjectAccess::checkHandle(database(), handle); status == Kyro::eOk) {
+        // Unannounced, the table takes the record without a change of its
+        // own: its list is no part of its saved state (undo of the append
+        // erases the record, which keeps its place), so it needs no
+        // before-image.
+        status = KyDbObjectAccess::append(database(), record, objectId(), handle, newId);
+    }
+    if (status != Kyro::eOk) {
         return status;
     }
     m_records.append(newId);
     indexAdd(name, newId);
     id = newId;
-    KyDbObjectAccess::announceAppend(record);
+    if (announce) {
+        KyDbObjectAccess::announceAppend(record);
+    }
     return Kyro::eOk;
 }
 
@@ -169,6 +191,15 @@ bool KyDbSymbolTable::has(const wchar_t* name) const {
 bool KyDbSymbolTable::has(KyDbObjectId id) const {
     return !id.isNull() && id.database() == database() && id.stub()->object != nullptr &&
            id.stub()->object->ownerId() == objectId() && !id.isErased();
+}
+
+void KyDbSymbolTable::getRecordIds(KyArray<KyDbObjectId>& ids, bool withErased) const {
+    ids.setLogicalLength(0);
+    for (const KyDbObjectId& id : m_records) {
+        if (withErased || !id.isErased()) {
+            ids.append(id);
+        }
+    }
 }
 
 Kyro::ErrorStatus KyDbSymbolTable::newIterator(KyDbSymbolTableIterator*& iterator, bool atBeginning,

@@ -33,6 +33,13 @@ public:
     Kyro::ErrorStatus add(KyDbSymbolTableRecord* record);
     Kyro::ErrorStatus add(KyDbObjectId& id, KyDbSymbolTableRecord* record,
                           KyDbHandle handle = KyDbHandle());
+    // Adds a record as add() does, with the same checks and the same undo
+    // record, but tells no one: no objectAppended, and the table is not
+    // marked changed, so its close tells nothing either. This is how records
+    // that an external reference brings come in; who watches the table learns
+    // of them from the end of the command that attached the reference.
+    Kyro::ErrorStatus addWithoutNotice(KyDbObjectId& id, KyDbSymbolTableRecord* record,
+                                       KyDbHandle handle = KyDbHandle());
 
     // The record of `name`, in any case. Without getErased only records that
     // are not erased; with it, an erased record answers when no other record
@@ -55,6 +62,9 @@ public:
 
     // Records in the table, erased ones included.
     int recordCount() const { return m_records.length(); }
+    // The ids of the records in table order; without `withErased` only those
+    // of records that are not erased.
+    void getRecordIds(KyArray<KyDbObjectId>& ids, bool withErased = false) const;
     // The class its records must be of.
     const KyRxClass* recordClass() const { return subRecordClass(); }
 
@@ -72,6 +82,8 @@ private:
 
     using Index = std::unordered_map<KyString, KyDbObjectId, KyDbNames::Hash, KyDbNames::Equal>;
 
+    Kyro::ErrorStatus insert(KyDbObjectId& id, KyDbSymbolTableRecord* record, KyDbHandle handle,
+                             bool announce);
     // The live record of `name`, null if none.
     KyDbObjectId liveRecord(const wchar_t* name) const;
     void indexAdd(const wchar_t* name, KyDbObjectId id);

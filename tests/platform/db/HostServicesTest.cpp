@@ -64,9 +64,9 @@ TEST(HostServicesTest, TheTraceHidesMarkedRecordsOnlyWhileShown) {
 }
 
 TEST(HostServicesTest, LineweightUnitsAreOneGlobalSetting) {
+    EXPECT_EQ(gLineWeightUnits, 1) << "millimetres at start";
+    gLineWeightUnits = 0;
     EXPECT_EQ(gLineWeightUnits, 0);
-    gLineWeightUnits = 1;
-    EXPECT_EQ(gLineWeightUnits, 1);
     static_assert(sizeof(gLineWeightUnits) == 2, "a 16-bit setting");
 }
 
