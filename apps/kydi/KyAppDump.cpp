@@ -1,0 +1,150 @@
+#include "KyAppDump.h"
+
+#include "KyAppSysVarValue.h"
+#include "KyRefHost.h"
+#include "db/KyDbBlockTableRecord.h"
+#include "db/KyDbBlockTableRecordIterator.h"
+#include "db/KyDbDatabase.h"
+#include "db/KyDbObjectPointer.h"
+#include "db/KyDbSymbolTable.h"
+#include "db/KyDbSymbolTableRecord.h"
+#include "io/KyRefEntityRows.h"
+#include "io/KyRefHeaderRows.h"
+#include "io/KyRefObjectRows.h"
+#include "io/KyRefTableRows.h"
+#include "io/KyRefValueForms.h"
+#include "io/KyRefWriteContext.h"
+#include "kydi/KyDiManager.h"
+#include "kydi/KyDiSysVar.h"
+
+namespace {
+
+KyRefJson documentJson(KyRefHost& host) {
+    KyRefDocument* current = host.documents().current();
+    if (current == nullptr) {
+        return KyRefJson();
+    }
+    int number = 0;
+    for (int i = 0; i < host.documents().count(); ++i) {
+        if (host.documents().at(i) == current) {
+            number = i + 1;
+        }
+    }
+    KyRefJson out = KyRefJson::object();
+    out["number"] = number;
+    out["name"] = current->name().utf8();
+    out["path"] = current->path().utf8();
+    out["modified"] = current->isModified();
+    return out;
+}
+
+KyRefJson sysVarsJson(KyRefHost& host) {
+    KyRefJson out = KyRefJson::array();
+    if (host.editor() == nullptr) {
+        return out;
+    }
+    // Asking for a variable object reads the variable again: copy the names.
+    const std::vector<KyString> names = host.editor()->variablesAsked();
+    for (const KyString& name : names) {
+        KyDiSysVar* sysVar = KyDiManager::getSysVar(name);
+        if (sysVar == nullptr) {
+            continue;
+        }
+        KyRefJson entry = KyRefJson::object();
+        entry["name"] = name.utf8();
+        resbuf value{};
+        if (sysVar->getValue(value) == Kyro::eOk) {
+            const KyAppValue shown = KyAppSysVarValue::toValue(value);
+            if (shown.kind() == KyAppValue::Kind::kNumber) {
+                entry["value"] = shown.asNumber();
+            } else {
+                entry["value"] = shown.asText();
+            }
+        } else {
+            entry["value"] = nullptr;
+        }
+        entry["minimum"] = sysVar->minimum();
+        entry["maximum"] = sysVar->maximum();
+        entry["active"] = sysVar->isActive();
+        out.push_back(std::move(entry));
+    }
+    return out;
+}
+
+// The count of a block's entities by their type.
+void addEntities(KyRefWriteContext& context, const KyDbBlockTableRecord& block, KyRefJson& out) {
+    KyRefJson types = KyRefJson::object();
+    int count = 0;
+    KyDbBlockTableRecordIterator it(&block);
+    for (it.start(); !it.done(); it.step()) {
+        KyDbObjectId id;
+        it.getEntityId(id);
+        const KyRefJson entity = KyRefEntityRows::write(context, id);
+        if (!entity.is_object() || !entity.contains("type")) {
+            continue;
+        }
+        const std::string type = entity["type"].get<std::string>();
+        types[type] = types.value(type, 0) + 1;
+        ++count;
+    }
+    out["entityCount"] = count;
+    out["entities"] = std::move(types);
+}
+
+KyRefJson recordJson(KyRefWriteContext& context, const KyRefTableRow& row, KyDbObjectId id) {
+    KyDbObjectPointer<KyDbSymbolTableRecord> record(id, KyDb::kForRead);
+    if (record.openStatus() != Kyro::eOk) {
+        return KyRefJson();
+    }
+    KyRefJson out = KyRefJson::object();
+    out["name"] = kyrefUtf8(record->name());
+    out["handle"] = KyRefValueForms::handle(KyDbHandle(id.handle()));
+    row.write(context, *record.object(), out);
+    if (const auto* block = kyrxCast<KyDbBlockTableRecord>(record.object())) {
+        addEntities(context, *block, out);
+    }
+    return out;
+}
+
+KyRefJson tablesJson(KyRefWriteContext& context) {
+    KyRefJson out = KyRefJson::object();
+    for (const KyRefTableRow& row : KyRefTableRows::rows()) {
+        KyRefJson records = KyRefJson::array();
+        KyDbObjectPointer<KyDbSymbolTable> table((context.database()->*row.table)(),
+                                                 KyDb::kForRead);
+        if (table.openStatus() == Kyro::eOk) {
+            KyArray<KyDbObjectId> ids;
+            table->getRecordIds(ids);
+            for (const KyDbObjectId& id : ids) {
+                KyRefJson record = recordJson(context, row, id);
+                if (!record.is_null()) {
+                    records.push_back(std::move(record));
+                }
+            }
+        }
+        out[row.member] = std::move(records);
+    }
+    return out;
+}
+
+}  // namespace
+
+KyRefJson KyAppDump::build(KyRefHost& host) {
+    KyRefJson out = KyRefJson::object();
+    out["document"] = documentJson(host);
+    out["collections"] = KyRefJson::array();
+    out["contexts"] = KyRefJson::array();
+    out["sysvars"] = sysVarsJson(host);
+    KyDbDatabase* database = host.documents().currentDatabase();
+    if (database == nullptr) {
+        out["tables"] = KyRefJson::object();
+        out["objects"] = KyRefJson();
+        out["header"] = KyRefJson::object();
+        return out;
+    }
+    KyRefWriteContext context(database, nullptr);
+    out["tables"] = tablesJson(context);
+    out["objects"] = KyRefObjectRows::writeRoot(context);
+    out["header"] = KyRefHeaderRows::write(context);
+    return out;
+}

@@ -1,0 +1,320 @@
+#include "KyAppScript.h"
+
+#include <charconv>
+#include <optional>
+
+#include "KyAppHostEventPrinter.h"
+#include "KyAppSession.h"
+#include "KyAppStatementReader.h"
+#include "KyAppSysVarValue.h"
+#include "KyAppSysVarWatch.h"
+#include "KyAppValue.h"
+#include "KyRefHost.h"
+#include "KyRefManualClock.h"
+#include "db/KyDbDatabase.h"
+#include "db/KyDbHandle.h"
+#include "kydi/KyDiManager.h"
+#include "kydi/KyDiSysVar.h"
+
+namespace {
+
+// A whole word as a number of 0 or more, with an optional leading plus.
+bool parseCount(const std::string& word, long long& value) {
+    const char* first = word.data() + (!word.empty() && word[0] == '+' ? 1 : 0);
+    const char* last = word.data() + word.size();
+    const auto [end, failure] = std::from_chars(first, last, value);
+    return first != last && failure == std::errc() && end == last && value >= 0;
+}
+
+std::string statusText(Kyro::ErrorStatus status) {
+    switch (status) {
+        case Kyro::eNotApplicable:
+            return "not applicable now";
+        case Kyro::eInvalidInput:
+            return "invalid input";
+        case Kyro::eCannotSetSysVar:
+            return "the variable can't be set";
+        case Kyro::eNoCurrentDocument:
+            return "no current document";
+        default:
+            return "status " + std::to_string(static_cast<int>(status));
+    }
+}
+
+}  // namespace
+
+KyAppScript::KyAppScript(KyAppSession& session, std::ostream& out)
+    : m_session(session), m_out(out) {}
+
+KyAppScript::~KyAppScript() {
+    m_sysVarWatches.clear();
+    if (m_hostPrinter != nullptr) {
+        m_session.host().removeReactor(m_hostPrinter.get());
+    }
+}
+
+std::span<const KyAppScript::Row> KyAppScript::rows() {
+    using Script = KyAppScript;
+    static const Row kRows[] = {
+        {"open", 1, 1, "open FILE", &Script::open},
+        {"new", 0, 0, "new", &Script::newDocument},
+        {"switch", 1, 1, "switch N", &Script::switchDocument},
+        {"close", 0, 0, "close", &Script::close},
+        {"save", 1, 1, "save FILE", &Script::save},
+        {"command", 1, -1, "command TEXT", &Script::command},
+        {"idle", 0, 0, "idle", &Script::idle},
+        {"refresh", 0, 0, "refresh", &Script::refresh},
+        {"clock", 1, 1, "clock +MS", &Script::clock},
+        {"echo", 0, -1, "echo TEXT", &Script::echo},
+        {"select", 0, -1, "select HANDLE...", &Script::select},
+        {"log", 0, 0, "log", &Script::log},
+        {"watch", 1, 2, "watch host|sysvar NAME|collection NAME|context NAME", &Script::watch},
+        {"sysvar", 1, 2, "sysvar NAME [VALUE]", &Script::sysvar},
+        {"items", 1, 1, "items COLLECTION", &Script::collectionStatement},
+        {"current", 1, 2, "current COLLECTION [ITEM]", &Script::collectionStatement},
+        {"get", 3, 3, "get COLLECTION ITEM PROPERTY", &Script::collectionStatement},
+        {"set", 4, 4, "set COLLECTION ITEM PROPERTY VALUE", &Script::collectionStatement},
+        {"context", 1, 3, "context NAME [PROPERTY [VALUE]]", &Script::context},
+    };
+    return kRows;
+}
+
+bool KyAppScript::runLine(const std::string& line) {
+    KyAppStatement statement;
+    std::string error;
+    if (!KyAppStatementReader::read(line, statement, error)) {
+        return error.empty() || fail(error);
+    }
+    for (const Row& row : rows()) {
+        if (statement.name != row.name) {
+            continue;
+        }
+        const int count = static_cast<int>(statement.words.size());
+        if (count < row.minimumWords || (row.maximumWords >= 0 && count > row.maximumWords)) {
+            return fail(std::string("usage: ") + row.usage);
+        }
+        return (this->*row.run)(statement);
+    }
+    return fail("unknown statement " + statement.name);
+}
+
+void KyAppScript::runAll(std::istream& in, const char* prompt) {
+    std::string line;
+    while (true) {
+        if (prompt != nullptr) {
+            m_out << prompt;
+        }
+        m_out.flush();
+        if (!std::getline(in, line)) {
+            break;
+        }
+        runLine(line);
+    }
+    if (prompt != nullptr) {
+        m_out << '\n';
+    }
+    m_out.flush();
+}
+
+bool KyAppScript::fail(const std::string& reason) {
+    m_out << "error: " << reason << '\n';
+    m_anyFailed = true;
+    return false;
+}
+
+KyRefDocument* KyAppScript::currentDocument() {
+    KyRefDocument* document = m_session.host().documents().current();
+    return document != nullptr && document->database() != nullptr ? document : nullptr;
+}
+
+bool KyAppScript::open(const KyAppStatement& statement) {
+    KyString error;
+    if (m_session.host().documents().openDocument(KyString::fromUtf8(statement.words[0].text),
+                                                  error) == nullptr) {
+        return fail(error.utf8());
+    }
+    return true;
+}
+
+bool KyAppScript::newDocument(const KyAppStatement&) {
+    m_session.host().documents().newDocument();
+    return true;
+}
+
+bool KyAppScript::switchDocument(const KyAppStatement& statement) {
+    KyRefDocumentManager& documents = m_session.host().documents();
+    long long number = 0;
+    if (!parseCount(statement.words[0].text, number) || number < 1 || number > documents.count()) {
+        return fail("no document " + statement.words[0].text + " (" +
+                    std::to_string(documents.count()) + " open)");
+    }
+    documents.makeCurrent(documents.at(static_cast<int>(number) - 1));
+    return true;
+}
+
+bool KyAppScript::close(const KyAppStatement&) {
+    KyRefDocument* document = currentDocument();
+    if (document == nullptr) {
+        return fail("no document is open");
+    }
+    KyRefDocumentManager& documents = m_session.host().documents();
+    documents.closeDocument(document);
+    documents.releaseClosedDocuments();
+    return true;
+}
+
+bool KyAppScript::save(const KyAppStatement& statement) {
+    KyRefDocument* document = currentDocument();
+    if (document == nullptr) {
+        return fail("no document is open");
+    }
+    KyString error;
+    if (!m_session.host().documents().saveDocument(
+            document, KyString::fromUtf8(statement.words[0].text), error)) {
+        return fail(error.utf8());
+    }
+    return true;
+}
+
+bool KyAppScript::command(const KyAppStatement& statement) {
+    KyRefEditor* editor = m_session.host().editor();
+    if (editor == nullptr) {
+        return fail("the host has no command line");
+    }
+    const std::string text = KyAppStatementReader::commandText(statement.rest);
+    editor->interpreter().queue(KyString::fromUtf8(text));
+    return true;
+}
+
+bool KyAppScript::idle(const KyAppStatement&) {
+    m_session.host().idle();
+    return true;
+}
+
+bool KyAppScript::refresh(const KyAppStatement&) {
+    KyDiManager::refresh();
+    return true;
+}
+
+bool KyAppScript::clock(const KyAppStatement& statement) {
+    KyRefManualClock* clock = m_session.host().clock();
+    if (clock == nullptr) {
+        return fail("the clock is the real one here; only a script run moves it");
+    }
+    long long milliseconds = 0;
+    if (!parseCount(statement.words[0].text, milliseconds)) {
+        return fail("usage: clock +MS, with MS a whole number of milliseconds");
+    }
+    clock->advance(milliseconds);
+    return true;
+}
+
+bool KyAppScript::echo(const KyAppStatement& statement) {
+    m_out << statement.rest << '\n';
+    return true;
+}
+
+bool KyAppScript::select(const KyAppStatement& statement) {
+    KyRefDocument* document = currentDocument();
+    KyRefSelectionService* selection = m_session.host().selectionService();
+    if (document == nullptr) {
+        return fail("no document is open");
+    }
+    if (selection == nullptr) {
+        return fail("the host has no selection");
+    }
+    std::vector<KyDbObjectId> ids;
+    for (const KyAppWord& word : statement.words) {
+        const std::string digits = word.text.rfind('#', 0) == 0 ? word.text.substr(1) : word.text;
+        KyDbHandle handle;
+        KyDbObjectId id;
+        if (!KyDbHandle::fromText(KyString::fromUtf8(digits), handle)) {
+            return fail(word.text + " is no handle");
+        }
+        if (document->database()->getKyDbObjectId(id, handle) != Kyro::eOk || id.isErased()) {
+            return fail("no object #" + KyString(handle.text()).utf8() + " in the drawing");
+        }
+        ids.push_back(id);
+    }
+    selection->setSelection(ids);
+    return true;
+}
+
+bool KyAppScript::log(const KyAppStatement&) {
+    for (const KyString& line : m_session.host().commandLine().takeLines()) {
+        m_out << "| " << line.utf8() << '\n';
+    }
+    return true;
+}
+
+bool KyAppScript::watch(const KyAppStatement& statement) {
+    const std::string& what = statement.words[0].text;
+    const std::string name = statement.words.size() > 1 ? statement.words[1].text : std::string();
+    if (what == "host" && statement.words.size() == 1) {
+        if (m_hostPrinter == nullptr) {
+            m_hostPrinter = std::make_unique<KyAppHostEventPrinter>(m_session.host(), m_out);
+            m_session.host().addReactor(m_hostPrinter.get());
+        }
+        return true;
+    }
+    if (what == "sysvar" && !name.empty()) {
+        KyDiSysVar* sysVar = KyDiManager::getSysVar(KyString::fromUtf8(name));
+        if (sysVar == nullptr) {
+            return fail("unknown system variable " + name);
+        }
+        for (const auto& watch : m_sysVarWatches) {
+            if (watch->name() == name) {
+                return true;
+            }
+        }
+        m_sysVarWatches.push_back(std::make_unique<KyAppSysVarWatch>(sysVar, m_out));
+        return true;
+    }
+    if (what == "collection" && !name.empty()) {
+        return fail("unknown collection " + name);
+    }
+    if (what == "context" && !name.empty()) {
+        return fail("unknown context " + name);
+    }
+    return fail("usage: watch host|sysvar NAME|collection NAME|context NAME");
+}
+
+bool KyAppScript::sysvar(const KyAppStatement& statement) {
+    const std::string& name = statement.words[0].text;
+    KyDiSysVar* sysVar = KyDiManager::getSysVar(KyString::fromUtf8(name));
+    if (sysVar == nullptr) {
+        return fail("unknown system variable " + name);
+    }
+    // The value stays the variable object's own: nothing here frees it.
+    resbuf current{};
+    const bool hasValue = sysVar->getValue(current) == Kyro::eOk;
+    if (statement.words.size() == 1) {
+        m_out << name << ' '
+              << (hasValue ? KyAppSysVarValue::toValue(current).format() : std::string("none"))
+              << '\n';
+        return true;
+    }
+    if (!hasValue) {
+        return fail(name + " has no value whose type a new one could take");
+    }
+    std::string error;
+    const KyAppWord& word = statement.words[1];
+    const std::optional<KyAppValue> value = KyAppValue::parse(word.text, word.quoted, error);
+    KyRefResbufPtr record;
+    if (!value.has_value() || !KyAppSysVarValue::toRecord(*value, current.restype, record, error)) {
+        return fail(error);
+    }
+    const Kyro::ErrorStatus status = sysVar->setValue(*record, true);
+    if (status != Kyro::eOk) {
+        return fail(name + " was not set: " + statusText(status));
+    }
+    return true;
+}
+
+bool KyAppScript::collectionStatement(const KyAppStatement& statement) {
+    return fail("unknown collection " + statement.words[0].text);
+}
+
+bool KyAppScript::context(const KyAppStatement& statement) {
+    return fail("unknown context " + statement.words[0].text);
+}

@@ -1,0 +1,86 @@
+// KyAppScript: runs the statements of `kydi run` and `kydi shell` against a
+// session, one line at a time. Each statement prints what it shows on `out`;
+// one that fails prints "error: " and the reason, and the next line runs all
+// the same. The watches a script sets print there too, as the events come.
+//
+// Statements (documents are numbered from 1 in the order they were opened):
+//   open FILE, new, switch N, close, save FILE
+//   command TEXT       queues TEXT as typed (\n a new line, \e the cancel character)
+//   idle               the host runs what is queued
+//   refresh            a forced refresh pass
+//   clock +MS          moves the host's manual clock
+//   echo TEXT          prints TEXT
+//   select HANDLE...   sets the selection of the current document
+//   log                the host's command line since the last log, each line behind "| "
+//   watch host | sysvar NAME | collection NAME | context NAME
+//   sysvar NAME [VALUE]
+//   items COLLECTION, current COLLECTION [ITEM], get COLLECTION ITEM PROPERTY,
+//   set COLLECTION ITEM PROPERTY VALUE, context NAME [PROPERTY [VALUE]]
+#pragma once
+
+#include <istream>
+#include <memory>
+#include <ostream>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "KyAppStatement.h"
+
+class KyAppHostEventPrinter;
+class KyAppSession;
+class KyAppSysVarWatch;
+class KyRefDocument;
+
+class KyAppScript {
+public:
+    KyAppScript(KyAppSession& session, std::ostream& out);
+    // Takes back every watch.
+    ~KyAppScript();
+    KyAppScript(const KyAppScript&) = delete;
+    KyAppScript& operator=(const KyAppScript&) = delete;
+
+    // Runs the statement of one line; false when it failed.
+    bool runLine(const std::string& line);
+    // Runs every line of `in`. A non-null `prompt` is written before each
+    // line is read.
+    void runAll(std::istream& in, const char* prompt = nullptr);
+    // True once any statement failed.
+    bool anyFailed() const { return m_anyFailed; }
+
+    struct Row {
+        const char* name;
+        int minimumWords;
+        int maximumWords;  // -1: any number
+        const char* usage;
+        bool (KyAppScript::*run)(const KyAppStatement& statement);
+    };
+    static std::span<const Row> rows();
+
+private:
+    bool fail(const std::string& reason);
+    KyRefDocument* currentDocument();
+
+    bool open(const KyAppStatement& statement);
+    bool newDocument(const KyAppStatement& statement);
+    bool switchDocument(const KyAppStatement& statement);
+    bool close(const KyAppStatement& statement);
+    bool save(const KyAppStatement& statement);
+    bool command(const KyAppStatement& statement);
+    bool idle(const KyAppStatement& statement);
+    bool refresh(const KyAppStatement& statement);
+    bool clock(const KyAppStatement& statement);
+    bool echo(const KyAppStatement& statement);
+    bool select(const KyAppStatement& statement);
+    bool log(const KyAppStatement& statement);
+    bool watch(const KyAppStatement& statement);
+    bool sysvar(const KyAppStatement& statement);
+    bool collectionStatement(const KyAppStatement& statement);
+    bool context(const KyAppStatement& statement);
+
+    KyAppSession& m_session;
+    std::ostream& m_out;
+    std::unique_ptr<KyAppHostEventPrinter> m_hostPrinter;
+    std::vector<std::unique_ptr<KyAppSysVarWatch>> m_sysVarWatches;
+    bool m_anyFailed = false;
+};
