@@ -95,15 +95,20 @@ protected:
 
 TEST_F(Program, ALayerCommandAsTheLayerSendsItChangesTheLayerWhenTheHostIsIdle) {
     expectScript("layer_color", 0);
-    const KyRefJson saved = readJson(readFile(folder / "walls.kyd"));
-    ASSERT_TRUE(saved.is_object());
-    int color = -1;
-    for (const KyRefJson& layer : saved["layers"]) {
-        if (layer["name"] == "Walls") {
-            color = layer["color"].get<int>();
+    auto wallsColor = [this](const char* file) {
+        const KyRefJson saved = readJson(readFile(folder / file));
+        int color = -1;
+        if (saved.is_object()) {
+            for (const KyRefJson& layer : saved["layers"]) {
+                if (layer["name"] == "Walls") {
+                    color = layer["color"].get<int>();
+                }
+            }
         }
-    }
-    EXPECT_EQ(color, 1);
+        return color;
+    };
+    EXPECT_EQ(wallsColor("walls.kyd"), 1);
+    EXPECT_EQ(wallsColor("undone.kyd"), 5) << "U puts the sample's colour back";
 }
 
 TEST_F(Program, ACurrentLayerSetByCommandIsReportedOnceAfterTheHostRanIt) {
