@@ -62,10 +62,10 @@ const std::string& drawingText() {
                     entity = new KyDbCircle(KyGePoint3d(x, y, 0), 0.25);
                     break;
                 default: {
-                    auto* text = new KyDbText();
-                    text->setPosition(KyGePoint3d(x, y, 0));
-                    text->setTextString(KyString::formatted(L"T%d", i));
-                    entity = text;
+                    auto* label = new KyDbText();
+                    label->setPosition(KyGePoint3d(x, y, 0));
+                    label->setTextString(KyString::formatted(L"T%d", i));
+                    entity = label;
                 }
             }
             entity->setLayer(layers[i % kLayers]);

@@ -31,6 +31,7 @@ KyRefHost::KyRefHost(const KyRefHostOptions& options)
       m_image(makeIf<KyRefImageService>(options.imageService)),
       m_recentBlock(makeIf<KyRefRecentBlockService>(options.recentBlockService)),
       m_counting(makeIf<KyRefCountingService>(options.countingService)),
+      m_externalReferences(std::make_unique<KyRefExternalReferenceService>(*this)),
       m_variables(std::make_unique<KyRefVariablesDictionary>(*this)) {
     KyRxVariablesDictionary::install(m_variables.get());
 }

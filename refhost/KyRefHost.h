@@ -3,7 +3,9 @@
 // its system variables and every service of KyDiHost, each with state that a
 // test or a script sets; a host can be built with any service absent
 // (KyRefHostOptions). Its reactors hear the events a real host raises, at the
-// moments a real host raises them.
+// moments a real host raises them. It also holds the host's side of the
+// second contract, KyDiExternalReferenceHost (externalReferenceHost()), which
+// the application hands over with KyDiManager::initializeXRefHost.
 //
 // System variables. A write outside any command (setVar, a variable of the
 // variables dictionary, a direct write of the drawing's header by the data
@@ -23,6 +25,7 @@
 #include "KyRefCountingService.h"
 #include "KyRefDocumentManager.h"
 #include "KyRefEditor.h"
+#include "KyRefExternalReferenceService.h"
 #include "KyRefHostEvents.h"
 #include "KyRefHostOptions.h"
 #include "KyRefImageService.h"
@@ -72,6 +75,8 @@ public:
     KyRefCountingService* countingService() override { return m_counting.get(); }
 
     // ---- The host's side
+    // The display of external references; always there.
+    KyRefExternalReferenceService& externalReferenceHost() { return *m_externalReferences; }
     KyRefHostEvents& events() { return m_events; }
     KyRefDocumentManager& documents() { return *m_documents; }
     const KyRefDocumentManager& documents() const { return *m_documents; }
@@ -130,6 +135,7 @@ private:
     std::unique_ptr<KyRefImageService> m_image;
     std::unique_ptr<KyRefRecentBlockService> m_recentBlock;
     std::unique_ptr<KyRefCountingService> m_counting;
+    std::unique_ptr<KyRefExternalReferenceService> m_externalReferences;
     std::unique_ptr<KyRefVariablesDictionary> m_variables;
     KyRefSysVarStore::Snapshot m_reportStart;
     int m_reportDepth = 0;

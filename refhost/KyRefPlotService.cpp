@@ -5,8 +5,6 @@
 #include "KyRefReadAccess.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
-#include "db/KyDbDictionary.h"
-#include "db/KyDbDictionaryIterator.h"
 #include "db/KyDbLayout.h"
 
 namespace {
@@ -26,14 +24,28 @@ KyRefPlotService::KyRefPlotService(KyRefHost& host)
     : m_host(host),
       m_namedTables{KyString(L"Default.stb"), KyString(L"Grayscale.stb")},
       m_colorTables{KyString(L"Default.ctb"), KyString(L"Grayscale.ctb"),
-                    KyString(L"Monochrome.ctb")} {}
+                    KyString(L"Monochrome.ctb")},
+      m_tableStyles{{KyString(L"Default.stb"), {KyString(L"Normal"), KyString(L"Style 1")}},
+                    {KyString(L"Grayscale.stb"),
+                     {KyString(L"Normal"), KyString(L"Light"), KyString(L"Dark")}}} {}
 
-KyString KyRefPlotService::currentLayout() const {
-    KyRefResbufPtr value;
-    if (m_host.sysVars().get(L"CTAB", value) != KyRefSysVarStatus::kOk) {
-        return KyString();
+void KyRefPlotService::setTableStyles(const KyString& table, std::vector<KyString> styles) {
+    for (TableStyles& known : m_tableStyles) {
+        if (known.table.compareNoCase(table) == 0) {
+            known.styles = std::move(styles);
+            return;
+        }
     }
-    return KyString(value->resval.rstring);
+    m_tableStyles.push_back(TableStyles{table, std::move(styles)});
+}
+
+const std::vector<KyString>* KyRefPlotService::stylesOf(const KyString& table) const {
+    for (const TableStyles& known : m_tableStyles) {
+        if (known.table.compareNoCase(table) == 0) {
+            return &known.styles;
+        }
+    }
+    return nullptr;
 }
 
 bool KyRefPlotService::colorDependent() const {
@@ -41,14 +53,17 @@ bool KyRefPlotService::colorDependent() const {
     return database == nullptr || database->plotStyleMode();
 }
 
-KyRefPlotService::LayoutSettings* KyRefPlotService::currentSettings() {
-    const KyDiDocument document = m_host.documents().currentDocument();
+KyRefPlotService::LayoutSettings* KyRefPlotService::settingsOf(KyDbDatabase* database) {
+    const KyDiDocument document = m_host.documents().documentOf(database);
     if (document == kKyDiNoDocument) {
         return nullptr;
     }
-    LayoutSettings& settings = m_layouts[{document, std::wstring(currentLayout().kwszPtr())}];
+    KyRefReadAccess<KyDbLayout> layout(kydbCurrentLayoutId(database));
+    const std::wstring layoutName = layout ? layout->layoutName().kwszPtr() : L"";
+    LayoutSettings& settings = m_layouts[{document, layoutName}];
     if (settings.table.isEmpty()) {
-        const std::vector<KyString>& tables = colorDependent() ? m_colorTables : m_namedTables;
+        const std::vector<KyString>& tables =
+            database->plotStyleMode() ? m_colorTables : m_namedTables;
         if (!tables.empty()) {
             settings.table = tables.front();
         }
@@ -56,18 +71,26 @@ KyRefPlotService::LayoutSettings* KyRefPlotService::currentSettings() {
     return &settings;
 }
 
+KyRefPlotService::LayoutSettings* KyRefPlotService::currentSettings() {
+    return settingsOf(m_host.documents().currentDatabase());
+}
+
 bool KyRefPlotService::getPlotStyleNames(KyDbDatabase* database, KyDbObjectId& owner,
                                          KyArray<KyString>& names) {
-    if (database == nullptr) {
+    if (database == nullptr || database->plotStyleMode()) {
         return false;
     }
     owner = database->plotStyleNameDictionaryId();
-    KyRefReadAccess<KyDbDictionary> styles(owner);
-    if (!styles) {
-        return false;
-    }
-    for (KyDbDictionaryIterator it(styles.object()); !it.done(); it.next()) {
-        names.append(KyString(it.name()));
+    const LayoutSettings* settings = settingsOf(database);
+    const KyString table = settings != nullptr     ? settings->table
+                           : m_namedTables.empty() ? KyString()
+                                                   : m_namedTables.front();
+    // A table of another kind (the drawing's plot styles were converted) or
+    // one the host knows no styles of offers none.
+    if (const std::vector<KyString>* styles = stylesOf(table)) {
+        for (const KyString& style : *styles) {
+            names.append(style);
+        }
     }
     return true;
 }

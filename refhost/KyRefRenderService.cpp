@@ -92,6 +92,9 @@ Kyro::ErrorStatus KyRefRenderService::getOutputSize(KyString& text) {
 }
 
 Kyro::ErrorStatus KyRefRenderService::setDisplayProperties(bool display) {
+    if (display && !m_paletteAvailable) {
+        return Kyro::eNotApplicable;
+    }
     m_displayProperties = display;
     return Kyro::eOk;
 }

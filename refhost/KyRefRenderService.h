@@ -1,7 +1,8 @@
 // KyRefRenderService: render presets. The host offers its own presets (by
 // name only: Draft, Low, Medium, High, Presentation) and the presets of the
 // drawing's render settings dictionary; one of them is current (Medium to
-// begin with).
+// begin with). The render settings can be shown only while the host's render
+// palette is available, which a test can take away.
 #pragma once
 
 #include <vector>
@@ -25,12 +26,15 @@ public:
     // The output size of the current preset when it is the drawing's, else
     // the host's setting ("640x480").
     Kyro::ErrorStatus getOutputSize(KyString& text) override;
+    // eNotApplicable, with nothing changed, for showing the settings while the
+    // render palette is unavailable; hiding them always succeeds.
     Kyro::ErrorStatus setDisplayProperties(bool display) override;
 
     // ---- State that tests and scripts set and read
     const std::vector<KyString>& hostPresets() const { return m_hostPresets; }
     void setOutputSize(const wchar_t* size) { m_outputSize = size; }
     bool displaysProperties() const { return m_displayProperties; }
+    void setPaletteAvailable(bool available) { m_paletteAvailable = available; }
 
 private:
     KyRefHost& m_host;
@@ -38,4 +42,5 @@ private:
     KyString m_current;
     KyString m_outputSize;
     bool m_displayProperties = false;
+    bool m_paletteAvailable = true;
 };

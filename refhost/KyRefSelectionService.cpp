@@ -7,6 +7,19 @@
 #include "db/KyDbLayerTableRecord.h"
 #include "rx/KyRxClass.h"
 
+namespace {
+
+void appendIds(KyArray<KyDbObjectId>* out, const std::vector<KyDbObjectId>& ids) {
+    if (out == nullptr) {
+        return;
+    }
+    for (const KyDbObjectId& id : ids) {
+        out->append(id);
+    }
+}
+
+}  // namespace
+
 KyRefSelectionService::KyRefSelectionService(KyRefHost& host) : m_host(host) {}
 
 KyDiDocument KyRefSelectionService::currentDocument() const {
@@ -55,33 +68,64 @@ Kyro::ErrorStatus KyRefSelectionService::getSelection(KyArray<KyDbObjectId>& ids
     return Kyro::eOk;
 }
 
-Kyro::ErrorStatus KyRefSelectionService::filterForWrite(
-    int, int& total, int& excludedA, int& excludedB, const KyRxClass* filterClass,
-    KyArray<KyDbObjectId>* excludedIdsA, KyArray<KyDbObjectId>* excludedIdsB, const KyString&) {
-    total = 0;
-    excludedA = 0;
-    excludedB = 0;
+KyRefSelectionService::WriteCheck KyRefSelectionService::checkForWrite(
+    const KyRxClass* filterClass) const {
+    WriteCheck check;
     for (const KyDbObjectId& id : selection()) {
         if (filterClass != nullptr &&
             (id.objectClass() == nullptr || !id.objectClass()->isDerivedFrom(filterClass))) {
             continue;
         }
-        ++total;
+        ++check.total;
         KyRefReadAccess<KyDbEntity> entity(id);
         if (!entity) {
-            ++excludedB;
-            if (excludedIdsB != nullptr) {
-                excludedIdsB->append(id);
-            }
+            check.unwritable.push_back(id);
             continue;
         }
         KyRefReadAccess<KyDbLayerTableRecord> layer(entity->layerId());
         if (layer && layer->isLocked()) {
-            ++excludedA;
-            if (excludedIdsA != nullptr) {
-                excludedIdsA->append(id);
-            }
+            check.onLockedLayers.push_back(id);
         }
+    }
+    return check;
+}
+
+Kyro::ErrorStatus KyRefSelectionService::filterForWrite(
+    int mode, int& total, int& excludedA, int& excludedB, const KyRxClass* filterClass,
+    KyArray<KyDbObjectId>* excludedIdsA, KyArray<KyDbObjectId>* excludedIdsB, const KyString&) {
+    if (mode != kChangeProperties) {
+        return Kyro::eInvalidInput;
+    }
+    const WriteCheck check = checkForWrite(filterClass);
+    total = check.total;
+    excludedA = static_cast<int>(check.onLockedLayers.size());
+    excludedB = static_cast<int>(check.unwritable.size());
+    appendIds(excludedIdsA, check.onLockedLayers);
+    appendIds(excludedIdsB, check.unwritable);
+    return Kyro::eOk;
+}
+
+Kyro::ErrorStatus KyRefSelectionService::getSelectionCounts(
+    int mode, int& total, int& excluded, int& third, const KyRxClass* filterClass,
+    KyArray<KyDbObjectId>* excludedIds, KyArray<KyDbObjectId>* thirdIds, KyString& text) {
+    if (mode != kChangeProperties) {
+        return Kyro::eInvalidInput;
+    }
+    const WriteCheck check = checkForWrite(filterClass);
+    const int locked = static_cast<int>(check.onLockedLayers.size());
+    total = check.total;
+    excluded = locked + static_cast<int>(check.unwritable.size());
+    third = locked;
+    appendIds(excludedIds, check.onLockedLayers);
+    appendIds(excludedIds, check.unwritable);
+    appendIds(thirdIds, check.onLockedLayers);
+    // The message a change of properties prints when it leaves objects on
+    // locked layers out.
+    if (locked == 0) {
+        text = KyString();
+    } else {
+        text = KyString::formatted(
+            locked == 1 ? L"%d was on a locked layer." : L"%d were on a locked layer.", locked);
     }
     return Kyro::eOk;
 }

@@ -5,7 +5,11 @@
 //
 // A change of properties leaves alone the selected objects on locked layers
 // (the first group of filterForWrite) and those that are no entities or
-// can't be opened (the second group).
+// can't be opened (the second group). getSelectionCounts tells both groups as
+// excluded, and those on locked layers as its third count, with the message
+// a change of properties prints about them ("2 were on a locked layer.").
+// Both answer eInvalidInput for an operation other than a change of
+// properties.
 #pragma once
 
 #include <map>
@@ -28,6 +32,10 @@ public:
                                      KyArray<KyDbObjectId>* excludedIdsA,
                                      KyArray<KyDbObjectId>* excludedIdsB,
                                      const KyString& filterName) override;
+    Kyro::ErrorStatus getSelectionCounts(int mode, int& total, int& excluded, int& third,
+                                         const KyRxClass* filterClass,
+                                         KyArray<KyDbObjectId>* excludedIds,
+                                         KyArray<KyDbObjectId>* thirdIds, KyString& text) override;
 
     // ---- The host's side, for the current document
     std::vector<KyDbObjectId> selection() const;
@@ -35,7 +43,17 @@ public:
     void clear();
 
 private:
+    // The selected objects of a class, sorted for a change of properties.
+    struct WriteCheck {
+        int total = 0;
+        std::vector<KyDbObjectId> onLockedLayers;
+        std::vector<KyDbObjectId> unwritable;
+    };
+
     KyDiDocument currentDocument() const;
+    // The selection of the current document, of `filterClass` (all objects
+    // when it is null).
+    WriteCheck checkForWrite(const KyRxClass* filterClass) const;
 
     KyRefHost& m_host;
     std::map<KyDiDocument, std::vector<KyDbObjectId>> m_selections;

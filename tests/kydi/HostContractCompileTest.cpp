@@ -270,6 +270,18 @@ public:
         }
         return Kyro::eOk;
     }
+    Kyro::ErrorStatus getSelectionCounts(int mode, int& total, int& excluded, int& third,
+                                         const KyRxClass*, KyArray<KyDbObjectId>*,
+                                         KyArray<KyDbObjectId>*, KyString& text) override {
+        if (mode != kChangeProperties) {
+            return Kyro::eInvalidInput;
+        }
+        total = 4;
+        excluded = 2;
+        third = 1;
+        text = L"1 was on a locked layer.";
+        return Kyro::eOk;
+    }
 };
 
 class TestRegeneration final : public KyDiRegenerationService {
@@ -665,6 +677,15 @@ TEST(HostContract, SelectionAndLayerServicesAnswerThroughTheHost) {
     EXPECT_EQ(1, idsA.length());
     EXPECT_EQ(Kyro::eOk, selection->filterForWrite(1, total, excludedA, excludedB, nullptr, nullptr,
                                                    nullptr, KyString()));
+    EXPECT_EQ(1, KyDiSelectionService::kChangeProperties);
+    int third = 0;
+    KyString text;
+    EXPECT_EQ(Kyro::eOk, selection->getSelectionCounts(1, total, excludedA, third, nullptr, nullptr,
+                                                       nullptr, text));
+    EXPECT_EQ(4, total);
+    EXPECT_EQ(2, excludedA);
+    EXPECT_EQ(1, third);
+    EXPECT_STREQ(L"1 was on a locked layer.", text.kwszPtr());
 
     KyDiImageService* images = host.imageService();
     ASSERT_NE(nullptr, images);

@@ -168,6 +168,58 @@ TEST_F(HostServicesTest, EachLayoutKeepsItsPlotStyleTableAndChangesAreTold) {
     EXPECT_EQ(dpi, 600);
 }
 
+// A drawing with named plot styles, made current.
+KyRefDocument* namedPlotStyleDrawing(KyRefHost& host) {
+    KyRefDocument* document = host.documents().newDocument();
+    KyAxDocLock lock(document->database());
+    EXPECT_EQ(document->database()->setPlotStyleMode(false), Kyro::eOk);
+    return document;
+}
+
+Lines texts(const KyArray<KyString>& names) {
+    Lines lines;
+    for (int i = 0; i < names.length(); ++i) {
+        lines.push_back(names[i].utf8());
+    }
+    return lines;
+}
+
+TEST_F(HostServicesTest, ThePlotStylesOfferedAreThoseOfTheTableOfTheDrawingsLayout) {
+    KyRefPlotService& plot = *host->plotService();
+    KyDbObjectId owner;
+    KyArray<KyString> names;
+    EXPECT_FALSE(plot.getPlotStyleNames(db(), owner, names)) << "colour-dependent styles";
+    EXPECT_FALSE(plot.getPlotStyleNames(nullptr, owner, names));
+    EXPECT_TRUE(names.isEmpty());
+
+    KyRefDocument* named = namedPlotStyleDrawing(*host);
+    ASSERT_TRUE(plot.getPlotStyleNames(named->database(), owner, names));
+    EXPECT_EQ(owner, named->database()->plotStyleNameDictionaryId());
+    EXPECT_EQ(texts(names), (Lines{"Normal", "Style 1"}))
+        << "the table offers a style the drawing doesn't hold yet";
+
+    const KyString grayscale(L"Grayscale.stb");
+    ASSERT_TRUE(plot.setPlotStyleTable(&grayscale));
+    plot.setTableStyles(KyString(L"GRAYSCALE.STB"), {KyString(L"Normal"), KyString(L"Halftone")});
+    host->documents().newDocument();
+    names.removeAll();
+    ASSERT_TRUE(plot.getPlotStyleNames(named->database(), owner, names));
+    EXPECT_EQ(texts(names), (Lines{"Normal", "Halftone"}))
+        << "the table of that drawing, not of the drawing in front";
+
+    host->documents().makeCurrent(named);
+    ASSERT_TRUE(plot.setLayoutByName(KyString(L"Layout1")));
+    names.removeAll();
+    ASSERT_TRUE(plot.getPlotStyleNames(named->database(), owner, names));
+    EXPECT_EQ(texts(names), (Lines{"Normal", "Style 1"})) << "the layout has a table of its own";
+
+    KyDbDatabase background(true);
+    ASSERT_EQ(background.setPlotStyleMode(false), Kyro::eOk);
+    names.removeAll();
+    ASSERT_TRUE(plot.getPlotStyleNames(&background, owner, names));
+    EXPECT_EQ(texts(names), (Lines{"Normal", "Style 1"})) << "a drawing without a document";
+}
+
 TEST_F(HostServicesTest, RenderPresetsAreTheHostsAndTheDrawings) {
     KyRefRenderService& render = *host->renderService();
     KyString name;
@@ -185,6 +237,40 @@ TEST_F(HostServicesTest, RenderPresetsAreTheHostsAndTheDrawings) {
     EXPECT_EQ(owner, db()->renderSettingsDictionaryId());
     render.getOutputSize(name);
     EXPECT_EQ(name, L"640x480");
+    render.setPaletteAvailable(false);
+    EXPECT_EQ(render.setDisplayProperties(true), Kyro::eNotApplicable);
+    EXPECT_FALSE(render.displaysProperties()) << "a refused show changes nothing";
+}
+
+TEST_F(HostServicesTest, EachDrawingHasItsOwnBackgroundBehindExternalReferences) {
+    KyDiExternalReferenceHost& references = host->externalReferenceHost();
+    KyRefDocument* first = host->documents().current();
+    KyCmColor red;
+    red.setColorIndex(KyCmColor::kACIRed);
+    host->externalReferenceHost().setBackgroundOverride(first->handle(), red);
+    host->documents().newDocument();
+
+    KyCmColor color;
+    ASSERT_EQ(references.getBackgroundOverride(color, nullptr), Kyro::eOk);
+    EXPECT_TRUE(color.isNone()) << "the drawing in front has none";
+    ASSERT_EQ(references.getBackgroundOverride(color, first->database()), Kyro::eOk);
+    EXPECT_EQ(color.colorIndex(), KyCmColor::kACIRed);
+    host->documents().makeCurrent(first);
+    ASSERT_EQ(references.getBackgroundOverride(color, nullptr), Kyro::eOk);
+    EXPECT_EQ(color.colorIndex(), KyCmColor::kACIRed);
+
+    KyCmColor none;
+    none.setColorMethod(KyCmColor::kNone);
+    host->externalReferenceHost().setBackgroundOverride(first->handle(), none);
+    ASSERT_EQ(references.getBackgroundOverride(color, nullptr), Kyro::eOk);
+    EXPECT_TRUE(color.isNone());
+
+    KyDbDatabase background(true);
+    color = red;
+    EXPECT_EQ(references.getBackgroundOverride(color, &background), Kyro::eInvalidInput);
+    EXPECT_EQ(color.colorIndex(), KyCmColor::kACIRed) << "left alone";
+    host->documents().closeAll();
+    EXPECT_EQ(references.getBackgroundOverride(color, nullptr), Kyro::eNoCurrentDocument);
 }
 
 TEST_F(HostServicesTest, TheUcsIsWhatUcsnameNames) {

@@ -1,5 +1,7 @@
 // SELECT and ERASE by handle, the selection they leave, and the objects a
 // change of properties must leave alone.
+#include <algorithm>
+
 #include "RefHostTestSupport.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbEntity.h"
@@ -104,6 +106,74 @@ TEST_F(SelectionCommandTest, AChangeOfPropertiesLeavesObjectsOnLockedLayersAlone
               Kyro::eOk);
     EXPECT_EQ(total, 2);
     EXPECT_EQ(other, 0);
+}
+
+// The figures a change of properties is checked against before it is sent:
+// what the host counts as left alone must be what CHPROP then leaves alone.
+TEST_F(SelectionCommandTest, SelectionCountsAgreeWithWhatAChangeOfPropertiesLeavesAlone) {
+    const KyDbObjectId alsoOnLockedLayer = addEntity(L"Locked");
+    host->selectionService()->setSelection({first, onLockedLayer, lockedLayer, alsoOnLockedLayer});
+    int total = 0;
+    int excluded = 0;
+    int onLocked = 0;
+    KyArray<KyDbObjectId> excludedIds;
+    KyArray<KyDbObjectId> lockedIds;
+    KyString text;
+    ASSERT_EQ(host->selectionService()->getSelectionCounts(KyDiSelectionService::kChangeProperties,
+                                                           total, excluded, onLocked, nullptr,
+                                                           &excludedIds, &lockedIds, text),
+              Kyro::eOk);
+    EXPECT_EQ(total, 4);
+    EXPECT_EQ(excluded, 3) << "the two on the locked layer and the layer record";
+    EXPECT_EQ(onLocked, 2);
+    ASSERT_EQ(excludedIds.length(), 3);
+    EXPECT_EQ(excludedIds[0], onLockedLayer);
+    EXPECT_EQ(excludedIds[1], alsoOnLockedLayer);
+    EXPECT_EQ(excludedIds[2], lockedLayer);
+    ASSERT_EQ(lockedIds.length(), 2);
+    EXPECT_EQ(utf8(text.kwszPtr()), "2 were on a locked layer.");
+
+    takeLog();
+    run(L"_chprop\n_color\n3\n\n");
+    const Lines log = takeLog();
+    EXPECT_NE(std::find(log.begin(), log.end(), utf8(text.kwszPtr())), log.end())
+        << "the command tells the same";
+    EXPECT_EQ(KyDbObjectPointer<KyDbEntity>(first, KyDb::kForRead)->color().colorIndex(), 3);
+    EXPECT_TRUE(KyDbObjectPointer<KyDbEntity>(onLockedLayer, KyDb::kForRead)->color().isByLayer());
+}
+
+TEST_F(SelectionCommandTest, SelectionCountsKeepToTheClassAskedForAndToAChangeOfProperties) {
+    host->selectionService()->setSelection({first, second, lockedLayer});
+    int total = 0;
+    int excluded = 0;
+    int onLocked = 0;
+    KyString text(L"stale");
+    ASSERT_EQ(host->selectionService()->getSelectionCounts(
+                  KyDiSelectionService::kChangeProperties, total, excluded, onLocked,
+                  KyDbEntity::desc(), nullptr, nullptr, text),
+              Kyro::eOk);
+    EXPECT_EQ(total, 2);
+    EXPECT_EQ(excluded, 0);
+    EXPECT_EQ(onLocked, 0);
+    EXPECT_TRUE(text.isEmpty());
+
+    host->selectionService()->setSelection({onLockedLayer});
+    ASSERT_EQ(host->selectionService()->getSelectionCounts(KyDiSelectionService::kChangeProperties,
+                                                           total, excluded, onLocked, nullptr,
+                                                           nullptr, nullptr, text),
+              Kyro::eOk);
+    EXPECT_EQ(excluded, total) << "nothing is left to change";
+    EXPECT_EQ(utf8(text.kwszPtr()), "1 was on a locked layer.");
+
+    total = -1;
+    EXPECT_EQ(host->selectionService()->getSelectionCounts(2, total, excluded, onLocked, nullptr,
+                                                           nullptr, nullptr, text),
+              Kyro::eInvalidInput)
+        << "only a change of properties is known";
+    EXPECT_EQ(host->selectionService()->filterForWrite(0, total, excluded, onLocked, nullptr,
+                                                       nullptr, nullptr, KyString()),
+              Kyro::eInvalidInput);
+    EXPECT_EQ(total, -1);
 }
 
 TEST_F(SelectionCommandTest, EachDocumentKeepsItsOwnSelection) {
