@@ -22,6 +22,7 @@ KyAppSession::KyAppSession(Clock clock) : m_host(std::make_unique<KyRefHost>(opt
 KyAppSession::~KyAppSession() {
     if (m_started) {
         KyDiManager::uninitialize();
+        KyDiManager::uninitializeXRefHost();
     }
     m_host.reset();
 }
@@ -37,6 +38,8 @@ bool KyAppSession::start(const std::string& path, std::string& error) {
         error = problem.utf8();
         return false;
     }
+    // The host also serves the background shown behind external references.
+    KyDiManager::initializeXRefHost(&m_host->externalReferenceHost());
     KyDiManager::initialize(m_host.get());
     m_started = true;
     KyDiManager::refresh();
