@@ -147,8 +147,12 @@ bool KyRefDocumentManager::saveDocument(KyRefDocument* document, const wchar_t* 
                     : writeError;
         return false;
     }
+    // A new name changes DWGNAME, and the save clears DBMOD: the host tells
+    // those changes as it tells any other.
+    m_host.beginChangeReport();
     document->setPath(target);
     document->setModified(false);
+    m_host.raiseVariableChanges(m_host.endChangeReport());
     return true;
 }
 

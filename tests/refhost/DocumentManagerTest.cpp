@@ -221,7 +221,11 @@ TEST_F(DocumentManagerTest, OpeningAndSavingGoThroughTheDrawingReaderAndWriter) 
     EXPECT_EQ(takeLog().back(), "Everything has been undone.");
 
     EXPECT_TRUE(documents().saveDocument(plan, L"", error));
+    spy.take();
     EXPECT_TRUE(documents().saveDocument(plan, L"/drawings/copy.kyd", error));
+    const Lines saved = spy.take();
+    EXPECT_NE(std::find(saved.begin(), saved.end(), "sysVarChanged DWGNAME true"), saved.end())
+        << "a new name is told as a change of DWGNAME";
     EXPECT_EQ(io.written, (std::vector<KyString>{L"/drawings/plan.kyd", L"/drawings/copy.kyd"}));
     EXPECT_EQ(plan->name(), L"copy.kyd");
     EXPECT_FALSE(plan->isModified());
