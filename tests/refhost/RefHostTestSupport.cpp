@@ -30,63 +30,11 @@ std::string flag(bool value) {
 }
 }  // namespace
 
-void EventSpy::refreshNeeded(bool force) {
-    add("refreshNeeded " + flag(force));
-}
-void EventSpy::documentToBeDestroyed(KyDiDocument document) {
-    add("documentToBeDestroyed " + label(document));
-}
-void EventSpy::documentDestroyed() {
-    add("documentDestroyed");
-}
-void EventSpy::documentDestructionDone() {
-    add("documentDestructionDone");
-}
-void EventSpy::sysVarChanged(const wchar_t* name, bool success) {
-    add("sysVarChanged " + utf8(name) + " " + flag(success));
-}
-void EventSpy::sysVarWillChange(const wchar_t* name) {
-    add("sysVarWillChange " + utf8(name));
-}
-void EventSpy::commandWillStart(const wchar_t* globalCommandName) {
-    add("commandWillStart " + utf8(globalCommandName));
-}
-void EventSpy::hostStateChanged() {
-    add("hostStateChanged");
-}
-void EventSpy::invalidateAll() {
-    add("invalidateAll");
-}
-void EventSpy::drawingContentChanged() {
-    add("drawingContentChanged");
-}
-void EventSpy::commandEnded(const wchar_t* globalCommandName) {
-    add("commandEnded " + utf8(globalCommandName));
-}
-void EventSpy::ucsChanged() {
-    add("ucsChanged");
-}
-void EventSpy::plotSettingsChanged() {
-    add("plotSettingsChanged");
-}
-void EventSpy::plotSettingsChangedForLayout(const wchar_t* layoutName) {
-    add("plotSettingsChangedForLayout " + utf8(layoutName));
-}
-void EventSpy::layoutChanged() {
-    add("layoutChanged");
-}
-void EventSpy::documentBecameQuiet(KyDiDocument document) {
-    add("documentBecameQuiet " + label(document));
-}
-void EventSpy::documentBecameBusy(KyDiDocument document) {
-    add("documentBecameBusy " + label(document));
-}
-
 void EventSpy::name(KyDiDocument document, std::string label) {
     m_names.emplace_back(document, std::move(label));
 }
 
-std::string EventSpy::label(KyDiDocument document) const {
+std::string EventSpy::documentText(KyDiDocument document) const {
     for (const auto& [known, label] : m_names) {
         if (known == document) {
             return label;

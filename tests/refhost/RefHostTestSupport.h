@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "KyRefHost.h"
+#include "KyRefHostEventLines.h"
 #include "db/KyDbObjectReactor.h"
-#include "kydi/KyDiHostReactor.h"
 
 namespace refhost {
 
@@ -23,35 +23,19 @@ Lines utf8(const std::vector<KyString>& texts);
 
 // Records each host event with its arguments, documents by their number in
 // the order the test names them (see name()).
-class EventSpy : public KyDiHostReactor {
+class EventSpy : public KyRefHostEventLines {
 public:
-    void refreshNeeded(bool force) override;
-    void documentToBeDestroyed(KyDiDocument document) override;
-    void documentDestroyed() override;
-    void documentDestructionDone() override;
-    void sysVarChanged(const wchar_t* name, bool success) override;
-    void sysVarWillChange(const wchar_t* name) override;
-    void commandWillStart(const wchar_t* globalCommandName) override;
-    void hostStateChanged() override;
-    void invalidateAll() override;
-    void drawingContentChanged() override;
-    void commandEnded(const wchar_t* globalCommandName) override;
-    void ucsChanged() override;
-    void plotSettingsChanged() override;
-    void plotSettingsChangedForLayout(const wchar_t* layoutName) override;
-    void layoutChanged() override;
-    void documentBecameQuiet(KyDiDocument document) override;
-    void documentBecameBusy(KyDiDocument document) override;
-
     // Events from now on show `document` as `label`.
     void name(KyDiDocument document, std::string label);
     void add(std::string line) { m_lines.push_back(std::move(line)); }
     Lines take();
     const Lines& lines() const { return m_lines; }
 
-private:
-    std::string label(KyDiDocument document) const;
+protected:
+    void line(const std::string& text) override { add(text); }
+    std::string documentText(KyDiDocument document) const override;
 
+private:
     Lines m_lines;
     std::vector<std::pair<KyDiDocument, std::string>> m_names;
 };
