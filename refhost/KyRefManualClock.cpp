@@ -11,8 +11,12 @@ KyRefManualClock::~KyRefManualClock() {
 }
 
 void KyRefManualClock::advance(std::int64_t milliseconds) {
-    if (milliseconds > 0) {
-        m_now += milliseconds * 1000 * 1000;
+    advanceNanoseconds(milliseconds * 1000 * 1000);
+}
+
+void KyRefManualClock::advanceNanoseconds(std::int64_t nanoseconds) {
+    if (nanoseconds > 0) {
+        m_now += nanoseconds;
     }
 }
 

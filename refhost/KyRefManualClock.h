@@ -20,6 +20,9 @@ public:
     // Moves the clock forward by `milliseconds` (a negative amount is ignored:
     // a steady clock never goes back).
     void advance(std::int64_t milliseconds);
+    // The same by `nanoseconds`, for what depends on the clock to the last
+    // tick.
+    void advanceNanoseconds(std::int64_t nanoseconds);
     // The time the clock shows, in nanoseconds.
     std::int64_t now() const { return m_now; }
 

@@ -34,12 +34,12 @@ TEST_F(RefreshThrottle, FirstRequestIsNeverHeldBack) {
     EXPECT_EQ(luprec.lines, (Lines{L"valueChanged LUPREC 3"})) << "through the host's request";
 }
 
-TEST_F(RefreshThrottle, ExactlyTheGapIsHeldBack) {
+TEST_F(RefreshThrottle, ExactlyTheGapIsHeldBackAndOneNanosecondMorePasses) {
     requestRefresh();
     host.clock()->advance(250);
     requestRefresh();
     EXPECT_EQ(spy.passes, 1) << "the distance must be above 250 ms";
-    host.clock()->advance(1);
+    host.clock()->advanceNanoseconds(1);
     requestRefresh();
     EXPECT_EQ(spy.passes, 2);
 }
