@@ -49,14 +49,7 @@ std::string transparencyText(const KyRefJson& value) {
 }
 
 std::string handleText(const KyRefJson& value) {
-    if (!value.is_string()) {
-        return valueText(value);
-    }
-    // Appended rather than prefixed: g++ 12 at -O3 warns falsely of an
-    // overlapping copy for "#" + string.
-    std::string text(1, '#');
-    text += value.get<std::string>();
-    return text;
+    return value.is_string() ? "#" + value.get<std::string>() : valueText(value);
 }
 
 Form formOf(const std::string& member, const std::string& ownerType) {

@@ -201,11 +201,11 @@ std::string KyAppValue::format() const {
         case Kind::kObject: {
             char digits[17] = {};
             const auto result = std::to_chars(digits, digits + 16, m_handle, 16);
-            std::string text(1, '#');
-            for (const char* c = digits; c != result.ptr; ++c) {
-                text += static_cast<char>(std::toupper(static_cast<unsigned char>(*c)));
+            std::string text(digits, result.ptr);
+            for (char& c : text) {
+                c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
             }
-            return text;
+            return "#" + text;
         }
     }
     return std::string();

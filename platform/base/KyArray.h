@@ -236,9 +236,13 @@ public:
         }
         T* old = m_data;
         const int keep = std::min(m_logicalLength, n);
-        m_data = n > 0 ? new T[n] : nullptr;
-        if (keep > 0) {
-            R::reallocateArray(m_data, old, keep);
+        if (n == 0) {
+            m_data = nullptr;
+        } else {
+            m_data = new T[n];
+            if (keep > 0) {
+                R::reallocateArray(m_data, old, keep);
+            }
         }
         delete[] old;
         m_physicalLength = n;
