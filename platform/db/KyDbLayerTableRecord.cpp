@@ -188,7 +188,10 @@ Kyro::ErrorStatus KyDbLayerTableRecord::setDescription(const wchar_t* descriptio
 
 // ---- Viewport overrides
 
-Kyro::ErrorStatus KyDbLayerTableRecord::checkViewport(KyDbObjectId viewportId) const {
+Kyro::ErrorStatus KyDbLayerTableRecord::checkOverrideWrite(KyDbObjectId viewportId) const {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
     if (viewportId.isNull()) {
         return Kyro::eNullObjectId;
     }
@@ -256,10 +259,7 @@ KyCmColor KyDbLayerTableRecord::color(KyDbObjectId viewportId, bool& overridden)
 }
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setColor(const KyCmColor& color, KyDbObjectId viewportId) {
-    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
-        return status;
-    }
-    if (const Kyro::ErrorStatus status = checkViewport(viewportId); status != Kyro::eOk) {
+    if (const Kyro::ErrorStatus status = checkOverrideWrite(viewportId); status != Kyro::eOk) {
         return status;
     }
     if (!isLayerColor(color)) {
@@ -280,10 +280,7 @@ KyDbObjectId KyDbLayerTableRecord::linetypeObjectId(KyDbObjectId viewportId,
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setLinetypeObjectId(KyDbObjectId linetypeId,
                                                             KyDbObjectId viewportId) {
-    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
-        return status;
-    }
-    if (const Kyro::ErrorStatus status = checkViewport(viewportId); status != Kyro::eOk) {
+    if (const Kyro::ErrorStatus status = checkOverrideWrite(viewportId); status != Kyro::eOk) {
         return status;
     }
     if (const Kyro::ErrorStatus status =
@@ -305,10 +302,7 @@ KyDb::LineWeight KyDbLayerTableRecord::lineWeight(KyDbObjectId viewportId, bool&
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setLineWeight(KyDb::LineWeight weight,
                                                       KyDbObjectId viewportId) {
-    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
-        return status;
-    }
-    if (const Kyro::ErrorStatus status = checkViewport(viewportId); status != Kyro::eOk) {
+    if (const Kyro::ErrorStatus status = checkOverrideWrite(viewportId); status != Kyro::eOk) {
         return status;
     }
     if (!isLayerWeight(weight)) {
@@ -329,10 +323,7 @@ KyCmTransparency KyDbLayerTableRecord::transparency(KyDbObjectId viewportId,
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setTransparency(const KyCmTransparency& transparency,
                                                         KyDbObjectId viewportId) {
-    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
-        return status;
-    }
-    if (const Kyro::ErrorStatus status = checkViewport(viewportId); status != Kyro::eOk) {
+    if (const Kyro::ErrorStatus status = checkOverrideWrite(viewportId); status != Kyro::eOk) {
         return status;
     }
     if (!transparency.isByAlpha()) {
@@ -356,10 +347,7 @@ Kyro::ErrorStatus KyDbLayerTableRecord::plotStyleName(KyDbObjectId viewportId, K
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setPlotStyleName(const wchar_t* name,
                                                          KyDbObjectId viewportId) {
-    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
-        return status;
-    }
-    if (const Kyro::ErrorStatus status = checkViewport(viewportId); status != Kyro::eOk) {
+    if (const Kyro::ErrorStatus status = checkOverrideWrite(viewportId); status != Kyro::eOk) {
         return status;
     }
     if (name == nullptr || name[0] == L'\0') {

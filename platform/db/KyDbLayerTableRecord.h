@@ -143,8 +143,9 @@ private:
 
     bool isLayerZero() const;
     Kyro::ErrorStatus setFlag(bool& flag, bool value);
-    // The checks of a viewport id given to an override.
-    Kyro::ErrorStatus checkViewport(KyDbObjectId viewportId) const;
+    // The checks of a write of an override: the record is open for write and
+    // the id is that of a viewport of its database.
+    Kyro::ErrorStatus checkOverrideWrite(KyDbObjectId viewportId) const;
     // The override of the viewport when it holds `bit`, null otherwise.
     const ViewportOverride* findOverride(KyDbObjectId viewportId, unsigned bit) const;
     // Sets one override: `differs` tells whether the value differs from the

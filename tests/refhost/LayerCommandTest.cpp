@@ -8,7 +8,6 @@
 #include "KyRefLayerFilters.h"
 #include "LayerTestSupport.h"
 #include "base/KyRxResourceInstance.h"
-#include "db/KyCmColorBook.h"
 #include "db/KyDbDatabase.h"
 #include "io/KyRefJson.h"
 
@@ -60,14 +59,7 @@ TEST_F(LayerCommandTest, TypedByHandWithOrWithoutPrefixesTheColorCommandIsTheSam
 }
 
 TEST_F(LayerCommandTest, BookColorsNamedColorsAndTrueColorsTakeEveryForm) {
-    KyCmColor signal;
-    signal.setRGB(200, 30, 30);
-    signal.setNames(L"Signal");
-    KyCmColorBook::addColor(signal);
-    KyCmColor book;
-    book.setRGB(155, 17, 30);
-    book.setNames(L"3020", L"RAL");
-    KyCmColorBook::addColor(book);
+    addNamedColors();
 
     runToEnd(L"'_.-LAYER\n_COLOR\n_COLORBOOK\nRAL\n3020\n=Walls\n\n");
     EXPECT_EQ(colorOf(L"Walls"), "color=RAL$3020");
@@ -79,14 +71,7 @@ TEST_F(LayerCommandTest, BookColorsNamedColorsAndTrueColorsTakeEveryForm) {
 }
 
 TEST_F(LayerCommandTest, TheEffectiveColorFormsEndTheCommandCleanly) {
-    KyCmColor signal;
-    signal.setRGB(200, 30, 30);
-    signal.setNames(L"Signal");
-    KyCmColorBook::addColor(signal);
-    KyCmColor book;
-    book.setRGB(155, 17, 30);
-    book.setNames(L"3020", L"RAL");
-    KyCmColorBook::addColor(book);
+    addNamedColors();
 
     runToEnd(L"'_.-LAYER\n_COLOR\n4\n=Walls\n\n");
     EXPECT_EQ(colorOf(L"Walls"), "color=4");

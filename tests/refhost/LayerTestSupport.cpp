@@ -8,6 +8,7 @@
 #include "KyRefColorText.h"
 #include "KyRefDocument.h"
 #include "KyRefTransparencyText.h"
+#include "db/KyCmColorBook.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbHandle.h"
 #include "db/KyDbLayerTableRecord.h"
@@ -183,6 +184,17 @@ std::string LayerFixture::overrides(const wchar_t* name, const wchar_t* viewport
     }
     const std::string parts = text.str();
     return parts.empty() ? std::string() : parts.substr(1);
+}
+
+void LayerFixture::addNamedColors() {
+    KyCmColor signal;
+    signal.setRGB(200, 30, 30);
+    signal.setNames(L"Signal");
+    KyCmColorBook::addColor(signal);
+    KyCmColor book;
+    book.setRGB(155, 17, 30);
+    book.setNames(L"3020", L"RAL");
+    KyCmColorBook::addColor(book);
 }
 
 }  // namespace refhost

@@ -44,6 +44,9 @@ protected:
     // linetype=DASHED lineweight=25 transparency=50 plotStyle=Thick frozen=1",
     // each part only when overridden (frozen only when frozen there).
     std::string overrides(const wchar_t* name, const wchar_t* viewport) const;
+    // Registers the named colour "Signal" (without a book) and the colour
+    // "3020" of the book "RAL".
+    static void addNamedColors();
 
     std::filesystem::path folder;
 };

@@ -4,7 +4,6 @@
 // and undo.
 #include "LayerTestSupport.h"
 #include "db/KyAxDocLock.h"
-#include "db/KyCmColorBook.h"
 #include "db/KyDbDatabase.h"
 #include "rx/KyRxValue.h"
 
@@ -27,17 +26,6 @@ protected:
     void runToEnd(const wchar_t* text) {
         run(text);
         EXPECT_TRUE(host->commandNames().isEmpty()) << utf8(text);
-    }
-
-    static void addNamedColors() {
-        KyCmColor signal;
-        signal.setRGB(200, 30, 30);
-        signal.setNames(L"Signal");
-        KyCmColorBook::addColor(signal);
-        KyCmColor book;
-        book.setRGB(155, 17, 30);
-        book.setNames(L"3020", L"RAL");
-        KyCmColorBook::addColor(book);
     }
 };
 
