@@ -1,10 +1,16 @@
 // Variables that the layer computes instead of reading them from the host:
 // the document count, the displayed white, the background overrides; and the
-// plot style name, read as the host gives it.
+// plot style name, whose reserved names are shown in the user's language.
 #include <gtest/gtest.h>
 
+#include "base/KyRxResourceInstance.h"
+#include "db/KyAxDocLock.h"
 #include "db/KyDbColorService.h"
+#include "db/KyDbDatabase.h"
+#include "db/KyDbDictionary.h"
 #include "db/KyDbHostApplicationServices.h"
+#include "db/KyDbObjectPointer.h"
+#include "db/KyDbPlaceHolder.h"
 #include "kydi/KyDiExternalReferenceHost.h"
 #include "kydi/KyDiManager.h"
 #include "sysvars/SysVarFixture.h"
@@ -14,7 +20,23 @@ namespace {
 using kytest::Lines;
 using kytest::SysVarSpy;
 
-class ComputedSysVars : public kytest::SysVarFixture {};
+class ComputedSysVars : public kytest::SysVarFixture {
+protected:
+    // A named plot style of the drawing, which new objects can be given.
+    void addPlotStyle(const wchar_t* name) {
+        const KyAxDocLock lock;
+        KyDbObjectPointer<KyDbDictionary> styles(
+            host.documents().currentDatabase()->plotStyleNameDictionaryId(), KyDb::kForWrite);
+        auto* style = new KyDbPlaceHolder();
+        KyDbObjectId id;
+        ASSERT_EQ(styles->setAt(name, style, id), Kyro::eOk);
+        style->close();
+    }
+    void setPlotStyle(const wchar_t* name) {
+        const KyAxDocLock lock;
+        ASSERT_EQ(host.setVariable(L"CPLOTSTYLE", kytest::textValue(name)), KyRefSysVarStatus::kOk);
+    }
+};
 
 // Index 7 shows the colour packed in `white`.
 class HostColors final : public KyDbColorService {
@@ -73,7 +95,21 @@ TEST_F(ComputedSysVars, ExternalReferenceBackgroundNamesItsColour) {
     KyDiManager::uninitializeXRefHost();
 }
 
-TEST_F(ComputedSysVars, PlotStyleIsReadAsTheHostGivesIt) {
-    EXPECT_EQ(hostValue(L"CPLOTSTYLE"), L"ByLayer");
-    EXPECT_EQ(valueOf(L"CPLOTSTYLE"), L"ByLayer");
+TEST_F(ComputedSysVars, PlotStyleIsShownInTheUsersLanguage) {
+    KyRxResourceInstance::setLanguage(L"de");
+    addPlotStyle(L"Thick");
+    SysVarSpy spy(sysVar(L"CPLOTSTYLE"));
+    EXPECT_EQ(hostValue(L"CPLOTSTYLE"), L"ByLayer") << "the host holds the global form";
+    EXPECT_EQ(valueOf(L"CPLOTSTYLE"), L"VonLayer");
+
+    for (const wchar_t* style : {L"BYBLOCK", L"Normal", L"Thick"}) {
+        setPlotStyle(style);
+        KyDiManager::refresh();
+    }
+    EXPECT_EQ(spy.lines,
+              (Lines{L"valueChanged CPLOTSTYLE VonBlock", L"valueChanged CPLOTSTYLE Normalstil",
+                     L"valueChanged CPLOTSTYLE Thick"}))
+        << "any case of a reserved name; a style of the drawing stays as it is";
+    EXPECT_EQ(hostValue(L"CPLOTSTYLE"), L"Thick");
+    KyRxResourceInstance::setLanguage(L"");
 }
