@@ -12,6 +12,8 @@
 #include "manager/MemberReactor.h"
 #include "manager/RefreshPass.h"
 #include "manager/host/DataItemHostReactor.h"
+#include "manager/host/IKyDiCustomContextHost.h"
+#include "manager/host/IKyDiSymbolTableRegisterHost.h"
 #include "pal/KyPal.h"
 #include "rx/KyRxStandardAttributes.h"
 #include "sysvars/KyUiImpSysVar.h"
@@ -52,10 +54,17 @@ void KyDiManager::initialize(KyDiHost* host) {
     KyDiReflectedClasses::registerAll();
     kyrxBuildClassHierarchy();
 
-    // Here come the context factories ("SUN" first, then "DRAWING",
-    // "SELECTION", "VIEWPORT", "RENDER"), the data item factories of the
-    // symbol table module, the known-collection rows with their paths, the
-    // name converters and the layer facet provider.
+    // The context module's factories ("SUN") come first.
+    if (IKyDiCustomContextHost* customHost = IKyDiCustomContextHost::instance()) {
+        customHost->registerContextFactories();
+    }
+    // Here come the layer's context factories: "DRAWING", "SELECTION",
+    // "VIEWPORT", "RENDER".
+    if (IKyDiSymbolTableRegisterHost* symbolTables = IKyDiSymbolTableRegisterHost::instance()) {
+        symbolTables->registerDataItemFactories();
+    }
+    // Here come the known-collection rows with their paths, the name
+    // converters and the layer facet provider.
 
     state.memberReactor = new MemberReactor();
     KyRxMemberQueryEngine::theEngine()->addReactor(state.memberReactor);

@@ -15,6 +15,8 @@ public:
     virtual void registerClasses() = 0;
     // Deletes them.
     virtual void unregisterClasses() = 0;
+    // Appends the module's context factories, ahead of the layer's own.
+    virtual void registerContextFactories() = 0;
 
 protected:
     IKyDiCustomContextHost() = default;

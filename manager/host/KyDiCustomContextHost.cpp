@@ -30,3 +30,7 @@ void KyDiCustomContextHost::registerClasses() {
 void KyDiCustomContextHost::unregisterClasses() {
     KyDiReflectedClasses::deleteClass(m_sunContextClass, L"KyDiSunContext");
 }
+
+void KyDiCustomContextHost::registerContextFactories() {
+    // The sun context's factory row comes here with the context factory table.
+}

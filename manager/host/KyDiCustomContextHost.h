@@ -16,6 +16,7 @@ public:
     // "KyDiDbObjectContext".
     void registerClasses() override;
     void unregisterClasses() override;
+    void registerContextFactories() override;
 
 private:
     KyRxClass* m_sunContextClass = nullptr;
