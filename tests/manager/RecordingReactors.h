@@ -35,6 +35,10 @@ inline std::wstring valueText(const resbuf* value) {
             std::swprintf(buffer, 96, L"(%.9g,%.9g)", value->resval.rpoint[0],
                           value->resval.rpoint[1]);
             return buffer;
+        case KYRB_3DPOINT:
+            std::swprintf(buffer, 96, L"(%.9g,%.9g,%.9g)", value->resval.rpoint[0],
+                          value->resval.rpoint[1], value->resval.rpoint[2]);
+            return buffer;
         case KYRB_STRING:
             return value->resval.rstring != nullptr ? value->resval.rstring : L"";
         default:

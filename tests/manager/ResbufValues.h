@@ -28,6 +28,22 @@ inline resbuf pointValue(double x, double y) {
     return record;
 }
 
+inline resbuf pointValue(double x, double y, double z) {
+    resbuf record{};
+    record.restype = KYRB_3DPOINT;
+    record.resval.rpoint[0] = x;
+    record.resval.rpoint[1] = y;
+    record.resval.rpoint[2] = z;
+    return record;
+}
+
+inline resbuf longValue(int value) {
+    resbuf record{};
+    record.restype = KYRB_LONG;
+    record.resval.rlong = value;
+    return record;
+}
+
 inline resbuf textValue(const wchar_t* text) {
     resbuf record{};
     record.restype = KYRB_STRING;

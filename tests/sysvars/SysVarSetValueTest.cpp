@@ -43,6 +43,32 @@ TEST_F(SysVarByCommand, ValuesAreTypedAsTheHostReadsThem) {
     EXPECT_EQ(hostValue(L"HPNAME"), L"ANSI37");
 }
 
+TEST_F(SysVarByCommand, AnglesPointsInSpaceAndLongsAreTypedAsTheHostReadsThem) {
+    sysVar(L"ANGBASE")->setValue(kytest::realValue(0.5, KYRB_ANGLE), true);
+    sysVar(L"INSBASE")->setValue(kytest::pointValue(1.5, -2.0, 3.25), true);
+    sysVar(L"VIEWRES")->setValue(kytest::longValue(2000), true);
+    EXPECT_EQ(sentTexts(), (Lines{L"'ANGBASE 0.500000\n", L"'INSBASE 1.500000,-2.000000,3.250000\n",
+                                  L"'VIEWRES 2000\n"}))
+        << "no cancel follows: only a short is checked";
+
+    host.idle();
+    EXPECT_EQ(hostValue(L"ANGBASE"), L"0.5");
+    EXPECT_EQ(hostValue(L"INSBASE"), L"(1.5,-2,3.25)");
+    EXPECT_EQ(hostValue(L"VIEWRES"), L"2000");
+}
+
+TEST_F(SysVarByCommand, LongIsTypedWithoutASign) {
+    commandLine();
+    sysVar(L"VIEWRES")->setValue(kytest::longValue(-1), true);
+    EXPECT_EQ(sentTexts(), (Lines{L"'VIEWRES 4294967295\n"}));
+    host.idle();
+    EXPECT_EQ(commandLine(),
+              (Lines{L"Command: 'VIEWRES", L"Enter new value for VIEWRES <1000>: 4294967295",
+                     L"Requires an integer between 1 and 20000.",
+                     L"Enter new value for VIEWRES <1000>: "}));
+    EXPECT_EQ(hostValue(L"VIEWRES"), L"1000");
+}
+
 TEST_F(SysVarByCommand, ShortIsCancelledWhileOnlySetVarWaits) {
     type(L"SETVAR\n");
     ASSERT_EQ(host.commandNames(), KyString(L"SETVAR"));
@@ -158,6 +184,46 @@ TEST_F(SysVarRules, ReadOnlyVariableIsWrittenThroughTheHostsVariableObject) {
     EXPECT_EQ(sysVar(L"HATCHBOUNDSET")->setValue(shortValue(3), false), Kyro::eInvalidInput)
         << "the host's variable object refuses a value out of its range";
     EXPECT_EQ(hostValue(L"HATCHBOUNDSET"), L"0");
+}
+
+TEST_F(SysVarRules, HatchRelativeToPaperSpaceIsWrittenThroughTheHostsVariableObject) {
+    KyDiSysVar* relative = sysVar(L"HPRELATIVEPS");
+    SysVarSpy spy(relative);
+    EXPECT_EQ(relative->setValue(shortValue(1), true), Kyro::eOk);
+    EXPECT_TRUE(sentTexts().empty()) << "the host's command would refuse it";
+    EXPECT_EQ(hostValue(L"HPRELATIVEPS"), L"1") << "at once";
+    KyDiManager::refresh();
+    EXPECT_EQ(spy.lines, (Lines{L"valueChanged HPRELATIVEPS 1"}));
+
+    type(L"HPRELATIVEPS\n0\n");
+    EXPECT_EQ(hostValue(L"HPRELATIVEPS"), L"1") << "read-only to the user";
+}
+
+TEST_F(SysVarRules, SunAndDefaultLightingKeepTheirLastValueWhileNoDrawingIsOpen) {
+    type(L"SUNSTATUS\n1\nDEFAULTLIGHTING\n0\n");
+    Lines lines;
+    SysVarSpy sun(sysVar(L"SUNSTATUS"), &lines);
+    SysVarSpy lighting(sysVar(L"DEFAULTLIGHTING"), &lines);
+    for (const wchar_t* name : {L"SUNSTATUS", L"DEFAULTLIGHTING"}) {
+        EXPECT_EQ(sysVar(name)->minimum(), 0.0);
+        EXPECT_EQ(sysVar(name)->maximum(), 1.0);
+    }
+
+    host.documents().closeAll();
+    KyDiManager::refresh();
+    EXPECT_TRUE(lines.empty());
+    EXPECT_EQ(valueOf(L"SUNSTATUS"), L"1");
+    EXPECT_EQ(valueOf(L"DEFAULTLIGHTING"), L"0");
+
+    host.documents().newDocument();
+    KyDiManager::refresh();
+    EXPECT_EQ(lines, (Lines{L"valueChanged DEFAULTLIGHTING 1", L"valueChanged SUNSTATUS 0"}))
+        << "the new drawing's own values, in name order";
+
+    host.documents().closeAll();
+    EXPECT_EQ(sysVar(L"SUNSTATUS")->setValue(shortValue(1), true), Kyro::eCannotSetSysVar);
+    EXPECT_EQ(sysVar(L"DEFAULTLIGHTING")->setValue(shortValue(0), false), Kyro::eCannotSetSysVar);
+    EXPECT_TRUE(sentTexts().empty());
 }
 
 TEST_F(SysVarRules, SkyTriesPerspectiveEvenWithoutADocument) {
