@@ -49,7 +49,8 @@ public:
     KyString readLine(const wchar_t* prompt);
     // A name: a whole line, where "=" first says that the name is to be taken
     // as it stands and not as a keyword, and double quotes around it are
-    // dropped.
+    // dropped. It is one name, never a pattern: lists of names that take
+    // patterns are read by KyRefLayerNameList.
     KyString readName(const wchar_t* prompt);
     // An answer as a literal name: without a leading "=" and surrounding
     // double quotes.

@@ -147,7 +147,7 @@ bool KyRefDocumentManager::saveDocument(KyRefDocument* document, const wchar_t* 
                     : writeError;
         return false;
     }
-    // A new name changes DWGNAME, and the save clears DBMOD: the host tells
+    // A new name changes DRAWINGNAME, and the save clears DBMOD: the host tells
     // those changes as it tells any other.
     m_host.beginChangeReport();
     document->setPath(target);

@@ -150,8 +150,10 @@ void set(LayerRun& run) {
 
 void create(LayerRun& run) {
     const KyString answer = run.context.readLine(L"Enter name list for new layer(s): ");
-    bool literal = false;
-    const std::vector<KyString> names = KyRefLayerNameList::split(answer, literal);
+    std::vector<KyString> names;
+    for (const KyRefNamePattern& typed : KyRefLayerNameList::read(answer)) {
+        names.push_back(typed.name());
+    }
     for (const KyString& name : names) {
         if (!isValidName(name)) {
             run.context.fail(L"Invalid layer name \"%ls\".", name.kwszPtr());

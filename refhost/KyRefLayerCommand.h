@@ -13,7 +13,10 @@
 //                     the layer stays as it is
 //   LOck, Unlock
 //   Filter            Set and a filter's name: makes that layer filter current
-// Layer names are read by KyRefLayerNameList, values by KyRefLayerAnswers.
+// Lists of layer names are read by KyRefLayerNameList (patterns, or every
+// name literal behind "="): a name of a list that finds no layer fails the
+// command. Make, Set and Filter take one name as it stands, never a pattern.
+// Values are read by KyRefLayerAnswers.
 //
 // Each option reads and checks all of its answers before it changes a layer.
 // Run on its own, the command is one undo step and an error takes back every

@@ -1,7 +1,5 @@
 #include "KyRefLayerNameList.h"
 
-#include <cwctype>
-
 #include "KyRefCommandContext.h"
 #include "KyRefReadAccess.h"
 #include "db/KyDbDatabase.h"
@@ -9,14 +7,6 @@
 #include "db/KyDbSymbolTable.h"
 
 namespace {
-
-bool hasWildCard(const KyString& name) {
-    return name.findOneOf(L"*?") >= 0;
-}
-
-wint_t folded(wchar_t c) {
-    return std::towlower(static_cast<wint_t>(c));
-}
 
 struct Layer {
     KyDbObjectId id;
@@ -44,78 +34,55 @@ std::vector<Layer> layersOf(KyDbDatabase* database) {
 
 }  // namespace
 
-std::vector<KyString> KyRefLayerNameList::split(const KyString& answer, bool& literal) {
+std::vector<KyRefNamePattern> KyRefLayerNameList::read(const KyString& answer) {
     KyString text = KyString(answer).trim();
-    literal = text.kwszPtr()[0] == L'=';
+    const bool literal = text.kwszPtr()[0] == L'=';
     if (literal) {
         text = text.mid(1);
     }
-    std::vector<KyString> names;
+    std::vector<KyRefNamePattern> names;
+    const wchar_t* chars = text.kwszPtr();
     int start = 0;
-    while (start <= text.length()) {
-        int comma = text.find(L',', start);
-        if (comma < 0) {
-            comma = text.length();
+    for (int at = 0;; ++at) {
+        if (!literal && chars[at] == L'`' && chars[at + 1] != L'\0') {
+            ++at;
+            continue;
         }
-        KyString name = text.mid(start, comma - start).trim();
+        if (chars[at] != L',' && chars[at] != L'\0') {
+            continue;
+        }
+        KyString name = text.mid(start, at - start).trim();
         if (name.length() >= 2 && name.kwszPtr()[0] == L'"' &&
             name.kwszPtr()[name.length() - 1] == L'"') {
             name = name.mid(1, name.length() - 2);
         }
         if (!name.isEmpty()) {
-            names.push_back(name);
+            names.push_back(literal ? KyRefNamePattern::literal(name)
+                                    : KyRefNamePattern::typed(name));
         }
-        start = comma + 1;
-    }
-    return names;
-}
-
-bool KyRefLayerNameList::matches(const wchar_t* pattern, const wchar_t* name) {
-    // Matches with one step back to the last "*": linear for the usual
-    // patterns, and never recursive.
-    const wchar_t* star = nullptr;
-    const wchar_t* resume = nullptr;
-    while (*name != L'\0') {
-        if (*pattern == L'*') {
-            star = pattern++;
-            resume = name;
-        } else if (*pattern != L'\0' && (*pattern == L'?' || folded(*pattern) == folded(*name))) {
-            ++pattern;
-            ++name;
-        } else if (star != nullptr) {
-            pattern = star + 1;
-            name = ++resume;
-        } else {
-            return false;
+        if (chars[at] == L'\0') {
+            return names;
         }
+        start = at + 1;
     }
-    while (*pattern == L'*') {
-        ++pattern;
-    }
-    return *pattern == L'\0';
 }
 
 std::vector<KyDbObjectId> KyRefLayerNameList::resolve(KyRefCommandContext& context,
                                                       const KyString& answer) {
-    bool literal = false;
-    const std::vector<KyString> names = split(answer, literal);
+    const std::vector<KyRefNamePattern> names = read(answer);
     std::vector<Layer> layers = layersOf(context.database());
-    for (const KyString& name : names) {
-        const bool pattern = !literal && hasWildCard(name);
+    for (const KyRefNamePattern& name : names) {
         bool found = false;
         for (Layer& layer : layers) {
-            const bool hit =
-                pattern ? matches(name, layer.name) : layer.name.compareNoCase(name) == 0;
-            if (hit) {
+            if (name.matches(layer.name)) {
                 layer.named = true;
                 found = true;
             }
         }
         if (!found) {
-            if (pattern) {
-                context.fail(L"No layer matches \"%ls\".", name.kwszPtr());
-            }
-            context.fail(L"Cannot find layer \"%ls\".", name.kwszPtr());
+            context.fail(
+                name.isWildCard() ? L"No layer matches \"%ls\"." : L"Cannot find layer \"%ls\".",
+                name.typedText().kwszPtr());
         }
     }
     std::vector<KyDbObjectId> ids;

@@ -162,7 +162,7 @@ const KyRefSysVarRow kRows[] = {
     // The host's session.
     {L"CMDNAMES", kText, kSession, L"", kNoMin, kNoMax, kComputed | kSysVarNotReported, nullptr,
      &Acc::kCommandNames},
-    {L"DWGNAME", kText, kSession, L"", kNoMin, kNoMax, kComputed, nullptr, &Acc::kDrawingName},
+    {L"DRAWINGNAME", kText, kSession, L"", kNoMin, kNoMax, kComputed, nullptr, &Acc::kDrawingName},
     {L"PROPOBJLIMIT", kShort, kSession, L"25000", 0, 32767},
     {L"PICKFIRST", kShort, kSession, L"1", 0, 1},
     {L"FILEDIA", kShort, kSession, L"1", 0, 1},

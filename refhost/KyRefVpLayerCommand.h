@@ -10,8 +10,9 @@
 // service names current), All (every viewport of the current layout but the
 // paper itself) or Select (viewports given by handle).
 //
-// Values and layer names are read as -LAYER reads them (KyRefLayerAnswers):
-// an error line fails the command and takes back what it did, and an empty
+// Values and layer names are read as -LAYER reads them (KyRefLayerAnswers,
+// KyRefLayerNameList): an error line, such as a name of the list that finds
+// no layer, fails the command and takes back what it did, and an empty
 // answer to a value leaves the option, so that the lines after it are read
 // as the next answers. Only a layout has viewports: with TILEMODE on, the
 // command refuses at once and changes nothing.

@@ -46,7 +46,7 @@ Json layouts(KySampleHandles& h) {
                          {"scale", "1:100"}})},
         {"Details", layout("Details", 2, "*Paper_Space0",
                            {{"paper", "ISO A3 (420.00 x 297.00 MM)"},
-                            {"plotStyleTable", "acad.stb"},
+                            {"plotStyleTable", "standard.stb"},
                             {"scale", "1:20"}})},
     };
 }

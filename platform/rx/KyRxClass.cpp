@@ -12,7 +12,7 @@ KyRxClass* KyRxClass::isA() const {
     return KyRxClass::desc();
 }
 
-KyRxClass::KyRxClass(const wchar_t* name, const wchar_t* parentName, int dwgVersion,
+KyRxClass::KyRxClass(const wchar_t* name, const wchar_t* parentName, int fileVersion,
                      int maintenanceVersion, int proxyFlags, KyRxPseudoConstructor constructor,
                      const wchar_t* dxfName, const wchar_t* appName, KyRxAppChangeCallback callback,
                      KyRxMemberCollectionConstructorPtr memberBuilder, void* userData)
@@ -20,7 +20,7 @@ KyRxClass::KyRxClass(const wchar_t* name, const wchar_t* parentName, int dwgVers
       m_parentName(parentName),
       m_dxfName(dxfName),
       m_appName(appName),
-      m_dwgVersion(dwgVersion),
+      m_fileVersion(fileVersion),
       m_maintenanceVersion(maintenanceVersion),
       m_proxyFlags(proxyFlags),
       m_constructor(constructor),

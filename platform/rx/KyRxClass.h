@@ -33,7 +33,7 @@ public:
     // The name of the parent as registered, linked or not.
     const wchar_t* parentName() const { return m_parentName.kwszPtr(); }
     int proxyFlags() const { return m_proxyFlags; }
-    int dwgVersion() const { return m_dwgVersion; }
+    int fileVersion() const { return m_fileVersion; }
     int maintenanceVersion() const { return m_maintenanceVersion; }
     void* userData() const { return m_userData; }
 
@@ -61,7 +61,7 @@ public:
     KyRxObject* queryX(const KyRxClass* protocolClass) const;
 
 protected:
-    KyRxClass(const wchar_t* name, const wchar_t* parentName, int dwgVersion,
+    KyRxClass(const wchar_t* name, const wchar_t* parentName, int fileVersion,
               int maintenanceVersion, int proxyFlags, KyRxPseudoConstructor constructor,
               const wchar_t* dxfName, const wchar_t* appName, KyRxAppChangeCallback callback,
               KyRxMemberCollectionConstructorPtr memberBuilder, void* userData);
@@ -76,7 +76,7 @@ private:
     KyString m_dxfName;
     KyString m_appName;
     KyRxClass* m_parent = nullptr;
-    int m_dwgVersion = 0;
+    int m_fileVersion = 0;
     int m_maintenanceVersion = 0;
     int m_proxyFlags = 0;
     KyRxPseudoConstructor m_constructor = nullptr;
@@ -98,7 +98,7 @@ KYPLATFORM_API KyRxClass* newKyRxClass(const wchar_t* className, const wchar_t* 
                                        const wchar_t* dxfName = nullptr,
                                        const wchar_t* appName = nullptr);
 KYPLATFORM_API KyRxClass* newKyRxClass(const wchar_t* className, const wchar_t* parentClassName,
-                                       int dwgVersion, int maintenanceVersion, int proxyFlags,
+                                       int fileVersion, int maintenanceVersion, int proxyFlags,
                                        KyRxPseudoConstructor constructor, const wchar_t* dxfName,
                                        const wchar_t* appName, KyRxAppChangeCallback callback,
                                        KyRxMemberCollectionConstructorPtr memberBuilder,

@@ -13,13 +13,14 @@
 
 class KyRxClassRegistry {
 public:
-    static KyRxClass* make(const wchar_t* className, const wchar_t* parentClassName, int dwgVersion,
-                           int maintenanceVersion, int proxyFlags,
+    static KyRxClass* make(const wchar_t* className, const wchar_t* parentClassName,
+                           int fileVersion, int maintenanceVersion, int proxyFlags,
                            KyRxPseudoConstructor constructor, const wchar_t* dxfName,
                            const wchar_t* appName, KyRxAppChangeCallback callback,
                            KyRxMemberCollectionConstructorPtr memberBuilder, void* userData) {
-        return new KyRxClass(className, parentClassName, dwgVersion, maintenanceVersion, proxyFlags,
-                             constructor, dxfName, appName, callback, memberBuilder, userData);
+        return new KyRxClass(className, parentClassName, fileVersion, maintenanceVersion,
+                             proxyFlags, constructor, dxfName, appName, callback, memberBuilder,
+                             userData);
     }
     static void link(KyRxClass* cls, KyRxClass* parent) { cls->m_parent = parent; }
     static bool waitsForParent(const KyRxClass* cls) {
@@ -61,7 +62,7 @@ bool linkToParent(KyRxClass* cls) {
     return true;
 }
 
-KyRxClass* registerClass(const wchar_t* className, const wchar_t* parentClassName, int dwgVersion,
+KyRxClass* registerClass(const wchar_t* className, const wchar_t* parentClassName, int fileVersion,
                          int maintenanceVersion, int proxyFlags, KyRxPseudoConstructor constructor,
                          const wchar_t* dxfName, const wchar_t* appName,
                          KyRxAppChangeCallback callback,
@@ -74,7 +75,7 @@ KyRxClass* registerClass(const wchar_t* className, const wchar_t* parentClassNam
     if (KyRxObject* existing = classes->at(className)) {
         return kyrxCast<KyRxClass>(existing);
     }
-    KyRxClass* cls = KyRxClassRegistry::make(className, parentClassName, dwgVersion,
+    KyRxClass* cls = KyRxClassRegistry::make(className, parentClassName, fileVersion,
                                              maintenanceVersion, proxyFlags, constructor, dxfName,
                                              appName, callback, memberBuilder, userData);
     classes->atPut(className, cls);
@@ -91,12 +92,12 @@ KyRxClass* newKyRxClass(const wchar_t* className, const wchar_t* parentClassName
                          appName, nullptr, nullptr, nullptr);
 }
 
-KyRxClass* newKyRxClass(const wchar_t* className, const wchar_t* parentClassName, int dwgVersion,
+KyRxClass* newKyRxClass(const wchar_t* className, const wchar_t* parentClassName, int fileVersion,
                         int maintenanceVersion, int proxyFlags, KyRxPseudoConstructor constructor,
                         const wchar_t* dxfName, const wchar_t* appName,
                         KyRxAppChangeCallback callback,
                         KyRxMemberCollectionConstructorPtr memberBuilder, void* userData) {
-    return registerClass(className, parentClassName, dwgVersion, maintenanceVersion, proxyFlags,
+    return registerClass(className, parentClassName, fileVersion, maintenanceVersion, proxyFlags,
                          constructor, dxfName, appName, callback, memberBuilder, userData);
 }
 

@@ -224,8 +224,8 @@ TEST_F(DocumentManagerTest, OpeningAndSavingGoThroughTheDrawingReaderAndWriter) 
     spy.take();
     EXPECT_TRUE(documents().saveDocument(plan, L"/drawings/copy.kyd", error));
     const Lines saved = spy.take();
-    EXPECT_NE(std::find(saved.begin(), saved.end(), "sysVarChanged DWGNAME true"), saved.end())
-        << "a new name is told as a change of DWGNAME";
+    EXPECT_NE(std::find(saved.begin(), saved.end(), "sysVarChanged DRAWINGNAME true"), saved.end())
+        << "a new name is told as a change of DRAWINGNAME";
     EXPECT_EQ(io.written, (std::vector<KyString>{L"/drawings/plan.kyd", L"/drawings/copy.kyd"}));
     EXPECT_EQ(plan->name(), L"copy.kyd");
     EXPECT_FALSE(plan->isModified());

@@ -293,7 +293,7 @@ TEST_F(LayerCommandTest, FilterSetMakesTheNamedFilterCurrentAndASaveWritesItBack
     std::ifstream file(saved);
     const KyRefJson json = KyRefJson::parse(file);
     EXPECT_EQ(json["layerFilters"]["current"], "Nested");
-    spy.take();  // the save under a new name tells DWGNAME
+    spy.take();  // the save under a new name tells DRAWINGNAME
 
     run(L"'_.-LAYER\n_Filter\n_Set\n\"Missing\"\n\n");
     EXPECT_EQ(KyRefLayerFilters::current(db()), L"Nested");

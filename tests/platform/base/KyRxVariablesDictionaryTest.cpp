@@ -96,7 +96,7 @@ TEST(BaseVariables, AWriteStoresACopyOfTheValue) {
 }
 
 TEST(BaseVariables, SubclassesDecideWhichWritesTheyTake) {
-    ReadOnlyVariable readOnly(L"DWGNAME");
+    ReadOnlyVariable readOnly(L"DRAWINGNAME");
     resbuf* name = stringRb(L"sample.kydrawing");
     KyString error;
     EXPECT_EQ(Kyro::eCannotSetSysVar, readOnly.setValue(*name, nullptr, &error, false));
