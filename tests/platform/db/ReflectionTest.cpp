@@ -234,6 +234,7 @@ TEST_F(ReflectionTest, APaletteKnowsWhichPropertiesItMayEditBeforeItTries) {
 
     KyDbDimension dimension;
     EXPECT_TRUE(findProperty(&dimension, L"Measurement")->isReadOnly());
+    EXPECT_FALSE(findProperty(&dimension, L"DecimalPlaces")->isReadOnly());
     const auto* points = kyrxCast<KyRxIndexedProperty>(
         engine()->find(&dimension, L"Points", engine()->promotingContext()));
     ASSERT_NE(points, nullptr);
