@@ -5,9 +5,11 @@
 // kyrxFindKyRxClass(name)->create()) has a constructor; a base class has none.
 // Every class carries its local name (KyRxLocalizedNameAttribute, from
 // KyDbPropertyTexts) when the platform has a text for it, and builds its
-// reflected members from a table of rows (KyDbPropertyTable.h).
+// reflected members from a table of rows (KyDbPropertyTable.h). A class whose
+// rows have formulas serves KyRxPropertyExpressionPE for them from the start.
 #pragma once
 
+#include "db/KyDbPropertyExpression.h"
 #include "db/KyDbPropertyTable.h"
 #include "rx/KyRxClass.h"
 #include "rx/KyRxObject.h"
@@ -32,12 +34,23 @@ KyRxClass* kydbiRegisterClass(const wchar_t* className, KyRxClass* parent,
         return CLASS::desc();                                                     \
     }
 
+// A class with the members of ROWS and the formulas among them.
+#define KYDB_DEFINE_CLASS_ROWS(CLASS, PARENT, CONSTRUCTOR, ROWS)                 \
+    KyRxClass* CLASS::desc() {                                                   \
+        static KyRxClass* s_class = kydbiAddFormulas<ROWS>(kydbiRegisterClass(   \
+            L## #CLASS, PARENT::desc(), CONSTRUCTOR, &kydbiBuildMembers<ROWS>)); \
+        return s_class;                                                          \
+    }                                                                            \
+    KyRxClass* CLASS::isA() const {                                              \
+        return CLASS::desc();                                                    \
+    }
+
 // A class made by class, without members of its own.
 #define KYDB_DEFINE_MEMBERS(CLASS, PARENT) \
     KYDB_DEFINE_CLASS_EX(CLASS, PARENT, &kydbiConstruct<CLASS>, nullptr)
 // A class made by class, with the members of ROWS.
 #define KYDB_DEFINE_CLASS(CLASS, PARENT, ROWS) \
-    KYDB_DEFINE_CLASS_EX(CLASS, PARENT, &kydbiConstruct<CLASS>, &kydbiBuildMembers<ROWS>)
+    KYDB_DEFINE_CLASS_ROWS(CLASS, PARENT, &kydbiConstruct<CLASS>, ROWS)
 // A base class (not made by class), with the members of ROWS.
 #define KYDB_DEFINE_BASE_CLASS(CLASS, PARENT, ROWS) \
-    KYDB_DEFINE_CLASS_EX(CLASS, PARENT, nullptr, &kydbiBuildMembers<ROWS>)
+    KYDB_DEFINE_CLASS_ROWS(CLASS, PARENT, nullptr, ROWS)

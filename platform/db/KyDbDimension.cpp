@@ -18,6 +18,9 @@ const KyDbPropertyRow kDimensionRows[] = {
                  kydbiSetter<Dimension, KyDbObjectId>(&Dimension::setDimensionStyle)>(),
      KyDbCategory::kMisc, 0, L"/DimStyleTableId/Items"},
     {L"Measurement", kydbiAccess<&Dimension::measurement>(), KyDbCategory::kMisc, 1},
+    {L"DecimalPlaces", kydbiAccess<&Dimension::decimalPlaces, &Dimension::setDecimalPlaces>(),
+     KyDbCategory::kMisc, 2, nullptr, nullptr,
+     kydbiFormula<&Dimension::decimalPlacesFormula, &Dimension::setDecimalPlacesFormula>()},
     {L"DimensionText", kydbiAccess<&Dimension::dimensionText, &Dimension::setDimensionText>(),
      KyDbCategory::kText, 1},
     {L"TextStyleId", kydbiAccess<&Dimension::textStyle>(), KyDbCategory::kText, 2,
@@ -100,6 +103,35 @@ Kyro::ErrorStatus KyDbDimension::setDimensionText(const wchar_t* text) {
     return setMember(m_text, KyString(text));
 }
 
+namespace {
+
+bool isDecimalPlaces(int places) {
+    return places >= 0 && places <= KyDbDimension::kMaxDecimalPlaces;
+}
+
+}  // namespace
+
+Kyro::ErrorStatus KyDbDimension::setDecimalPlaces(int places) {
+    return isDecimalPlaces(places)
+               ? setMember(m_decimalPlaces, KyDbFormulaValue<int>::plain(places))
+               : Kyro::eInvalidInput;
+}
+
+Kyro::ErrorStatus KyDbDimension::setDecimalPlacesFormula(const wchar_t* text) {
+    KyDbFormulaValue<int> places;
+    if (const Kyro::ErrorStatus status = places.evaluate(text); status != Kyro::eOk) {
+        return status;
+    }
+    return isDecimalPlaces(places.value) ? setMember(m_decimalPlaces, places) : Kyro::eInvalidInput;
+}
+
+KyString KyDbDimension::displayText() const {
+    if (!m_text.isEmpty()) {
+        return m_text;
+    }
+    return KyString::formatted(L"%.*f", m_decimalPlaces.value, measurement());
+}
+
 void KyDbDimension::subAppended(KyDbDatabase* database) {
     KyDbEntity::subAppended(database);
     if (m_style.isNull()) {
@@ -115,6 +147,7 @@ void KyDbDimension::subSaveState(KyDbStateFiler& filer) const {
     filer.writeString(m_text);
     filer.write(m_measurement);
     filer.write(m_hasMeasurement);
+    m_decimalPlaces.save(filer);
 }
 
 Kyro::ErrorStatus KyDbDimension::subRestoreState(KyDbStateFiler& filer) {
@@ -127,5 +160,6 @@ Kyro::ErrorStatus KyDbDimension::subRestoreState(KyDbStateFiler& filer) {
     filer.read(m_text);
     filer.read(m_measurement);
     filer.read(m_hasMeasurement);
+    m_decimalPlaces.restore(filer);
     return filer.status();
 }

@@ -15,7 +15,8 @@ const KyDbPropertyRow kMTextRows[] = {
                  kydbiSetter<KyDbMText, KyDbObjectId>(&KyDbMText::setTextStyle)>(),
      KyDbCategory::kText, 2, L"/TextStyleTableId/Items"},
     {L"Height", kydbiAccess<&KyDbMText::textHeight, &KyDbMText::setTextHeight>(),
-     KyDbCategory::kText, 3},
+     KyDbCategory::kText, 3, nullptr, nullptr,
+     kydbiFormula<&KyDbMText::textHeightFormula, &KyDbMText::setTextHeightFormula>()},
     {L"Width", kydbiAccess<&KyDbMText::width, &KyDbMText::setWidth>(), KyDbCategory::kText, 4},
     {L"Position", kydbiAccess<&KyDbMText::location, &KyDbMText::setLocation>(),
      KyDbCategory::kGeometry, 1},
@@ -34,7 +35,16 @@ Kyro::ErrorStatus KyDbMText::setLocation(const KyGePoint3d& location) {
 }
 
 Kyro::ErrorStatus KyDbMText::setTextHeight(double height) {
-    return height > 0.0 ? setMember(m_height, height) : Kyro::eInvalidInput;
+    return height > 0.0 ? setMember(m_height, KyDbFormulaValue<double>::plain(height))
+                        : Kyro::eInvalidInput;
+}
+
+Kyro::ErrorStatus KyDbMText::setTextHeightFormula(const wchar_t* text) {
+    KyDbFormulaValue<double> height;
+    if (const Kyro::ErrorStatus status = height.evaluate(text); status != Kyro::eOk) {
+        return status;
+    }
+    return height.value > 0.0 ? setMember(m_height, height) : Kyro::eInvalidInput;
 }
 
 Kyro::ErrorStatus KyDbMText::setWidth(double width) {
@@ -66,7 +76,7 @@ void KyDbMText::subSaveState(KyDbStateFiler& filer) const {
     filer.write(m_location);
     filer.writeString(m_contents);
     filer.write(m_style);
-    filer.write(m_height);
+    m_height.save(filer);
     filer.write(m_width);
 }
 
@@ -77,7 +87,7 @@ Kyro::ErrorStatus KyDbMText::subRestoreState(KyDbStateFiler& filer) {
     filer.read(m_location);
     filer.read(m_contents);
     filer.read(m_style);
-    filer.read(m_height);
+    m_height.restore(filer);
     filer.read(m_width);
     return filer.status();
 }

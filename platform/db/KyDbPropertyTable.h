@@ -22,6 +22,10 @@
 // Lists of ids or points are collection properties ("Items", "Points").
 // Every object shows "ClassName" and "LocalizedName" (the names of its kind).
 //
+// Formulas. A numeric property whose row has a formula access may hold a
+// formula (KyDbFormulaValue); the class then serves KyRxPropertyExpressionPE
+// for it (KyDbPropertyExpression), registered with the class.
+//
 // Reads and writes work on an object the caller has opened: a read needs it
 // open for read (eInvalidOpenState otherwise), a write for write (the
 // setter's eWasNotOpenForWrite). An object of another class answers
@@ -61,6 +65,14 @@ struct KyDbPropertyAccess {
     Kyro::ErrorStatus (*set)(KyRxObject* object, const KyRxValue& value) = nullptr;
 };
 
+// How a property that may hold a formula reads the formula's text (empty for
+// a plain value) and sets a formula with its value; null members for every
+// other property.
+struct KyDbFormulaAccess {
+    Kyro::ErrorStatus (*get)(const KyRxObject* object, KyString& text) = nullptr;
+    Kyro::ErrorStatus (*set)(KyRxObject* object, const wchar_t* text) = nullptr;
+};
+
 // Makes a member that is not a scalar property (a collection, a list by index).
 using KyDbMakeMember = KyRxMember* (*)(const wchar_t* name, const KyRxObject* owner);
 
@@ -71,6 +83,7 @@ struct KyDbPropertyRow {
     unsigned weight = 0;
     const wchar_t* refersTo = nullptr;  // a reference path, shown by "Name"
     KyDbMakeMember make = nullptr;      // set instead of `access` for other members
+    KyDbFormulaAccess formula = {};     // set for a property that may hold a formula
 };
 
 // Adds the members of `rows` to a class being built.
@@ -154,6 +167,37 @@ constexpr KyDbPropertyAccess kydbiAccess() {
         access.set = &KyDbSetterOf<Setter>::set;
     }
     return access;
+}
+
+// The formula of a property through the class's member functions: the
+// formula's text, and the setter of a formula with its value.
+template <auto Getter, auto Setter>
+struct KyDbFormulaOf;
+
+template <typename C, const KyString& (C::*Getter)() const,
+          Kyro::ErrorStatus (C::*Setter)(const wchar_t*)>
+struct KyDbFormulaOf<Getter, Setter> {
+    static Kyro::ErrorStatus get(const KyRxObject* object, KyString& text) {
+        const C* typed = kyrxCast<C>(object);
+        if (typed == nullptr) {
+            return Kyro::eNotThatKindOfClass;
+        }
+        if (const Kyro::ErrorStatus status = kydbiReadStatus(typed); status != Kyro::eOk) {
+            return status;
+        }
+        text = (typed->*Getter)();
+        return Kyro::eOk;
+    }
+    static Kyro::ErrorStatus set(KyRxObject* object, const wchar_t* text) {
+        C* typed = kyrxCast<C>(object);
+        return typed != nullptr ? (typed->*Setter)(text) : Kyro::eNotThatKindOfClass;
+    }
+};
+
+template <auto Getter, auto Setter>
+constexpr KyDbFormulaAccess kydbiFormula() {
+    using F = KyDbFormulaOf<Getter, Setter>;
+    return KyDbFormulaAccess{&F::get, &F::set};
 }
 
 // A read-only property of type T over a plain function.

@@ -103,6 +103,7 @@ const TextRow kPropertyTexts[] = {
     {L"FrozenLayers", 9488},
     {L"DimBlockId", 9489},
     {L"Items", 9490},
+    {L"DecimalPlaces", 9491},
 };
 
 // Local names of the database classes, by class name.

@@ -19,6 +19,7 @@ protected:
         return m_access.set != nullptr ? m_access.set(object, value)
                                        : KyRxProperty::subSetValue(object, value);
     }
+    bool subIsReadOnly() const override { return m_access.set == nullptr; }
 
 private:
     KyDbPropertyAccess m_access;

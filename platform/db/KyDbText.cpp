@@ -16,7 +16,8 @@ const KyDbPropertyRow kTextRows[] = {
      kydbiAccess<&KyDbText::textStyle,
                  kydbiSetter<KyDbText, KyDbObjectId>(&KyDbText::setTextStyle)>(),
      KyDbCategory::kText, 2, L"/TextStyleTableId/Items"},
-    {L"Height", kydbiAccess<&KyDbText::height, &KyDbText::setHeight>(), KyDbCategory::kText, 3},
+    {L"Height", kydbiAccess<&KyDbText::height, &KyDbText::setHeight>(), KyDbCategory::kText, 3,
+     nullptr, nullptr, kydbiFormula<&KyDbText::heightFormula, &KyDbText::setHeightFormula>()},
     {L"Rotation", kydbiAccess<&KyDbText::rotation, &KyDbText::setRotation>(), KyDbCategory::kText,
      4},
     {L"Position", kydbiAccess<&KyDbText::position, &KyDbText::setPosition>(),
@@ -36,7 +37,16 @@ Kyro::ErrorStatus KyDbText::setPosition(const KyGePoint3d& position) {
 }
 
 Kyro::ErrorStatus KyDbText::setHeight(double height) {
-    return height > 0.0 ? setMember(m_height, height) : Kyro::eInvalidInput;
+    return height > 0.0 ? setMember(m_height, KyDbFormulaValue<double>::plain(height))
+                        : Kyro::eInvalidInput;
+}
+
+Kyro::ErrorStatus KyDbText::setHeightFormula(const wchar_t* text) {
+    KyDbFormulaValue<double> height;
+    if (const Kyro::ErrorStatus status = height.evaluate(text); status != Kyro::eOk) {
+        return status;
+    }
+    return height.value > 0.0 ? setMember(m_height, height) : Kyro::eInvalidInput;
 }
 
 Kyro::ErrorStatus KyDbText::setTextString(const wchar_t* text) {
@@ -68,7 +78,7 @@ void KyDbText::subSaveState(KyDbStateFiler& filer) const {
     filer.write(m_position);
     filer.writeString(m_text);
     filer.write(m_style);
-    filer.write(m_height);
+    m_height.save(filer);
     filer.write(m_rotation);
 }
 
@@ -79,7 +89,7 @@ Kyro::ErrorStatus KyDbText::subRestoreState(KyDbStateFiler& filer) {
     filer.read(m_position);
     filer.read(m_text);
     filer.read(m_style);
-    filer.read(m_height);
+    m_height.restore(filer);
     filer.read(m_rotation);
     return filer.status();
 }

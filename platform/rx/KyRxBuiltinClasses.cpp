@@ -7,6 +7,7 @@
 #include "rx/KyRxMethod.h"
 #include "rx/KyRxPlatformInit.h"
 #include "rx/KyRxProperty.h"
+#include "rx/KyRxPropertyExpressionPE.h"
 #include "rx/KyRxStandardAttributes.h"
 #include "rx/KyRxValueType.h"
 #include "rx/KyRxVariablesDictionary.h"
@@ -29,6 +30,7 @@ void kyrxRegisterRuntimeClasses() {
         &KyRxCollectionProperty::desc,
         &KyRxIndexedProperty::desc,
         &KyRxDictionaryProperty::desc,
+        &KyRxPropertyExpressionPE::desc,
         &KyRxMethod::desc,
         &KyRxEnumTag::desc,
         &KyRxMemberQueryContext::desc,

@@ -17,6 +17,10 @@ KyRxPropertyBase::KyRxPropertyBase(const wchar_t* name, const KyRxValueType& typ
                                    const KyRxObject* owner)
     : KyRxMember(name, type, owner) {}
 
+bool KyRxPropertyBase::subIsReadOnly() const {
+    return false;
+}
+
 Kyro::ErrorStatus KyRxPropertyBase::subChildren(KyRxMemberArray& children) const {
     const KyRxMemberCollection* members = type().members();
     if (members == nullptr) {
@@ -80,6 +84,10 @@ Kyro::ErrorStatus KyRxCollectionProperty::subTryGetCount(const KyRxObject* /*obj
     return Kyro::eNotImplementedYet;
 }
 
+bool KyRxCollectionProperty::subIsReadOnly() const {
+    return true;
+}
+
 KyRxIndexedProperty::KyRxIndexedProperty(const wchar_t* name, const KyRxValueType& type,
                                          const KyRxObject* owner)
     : KyRxCollectionProperty(name, type, owner) {}
@@ -122,6 +130,10 @@ Kyro::ErrorStatus KyRxIndexedProperty::subRemoveValue(KyRxObject* /*object*/, in
     return Kyro::eNotSupported;
 }
 
+bool KyRxIndexedProperty::subIsReadOnly() const {
+    return false;
+}
+
 KyRxDictionaryProperty::KyRxDictionaryProperty(const wchar_t* name, const KyRxValueType& type,
                                                const KyRxObject* owner)
     : KyRxCollectionProperty(name, type, owner) {}
@@ -146,6 +158,10 @@ Kyro::ErrorStatus KyRxDictionaryProperty::subSetValue(KyRxObject* /*object*/,
                                                       const wchar_t* /*key*/,
                                                       const KyRxValue& /*value*/) const {
     return Kyro::eNotApplicable;
+}
+
+bool KyRxDictionaryProperty::subIsReadOnly() const {
+    return false;
 }
 
 namespace {
@@ -194,6 +210,13 @@ protected:
             return status;
         }
         return base->setValue(object, whole);
+    }
+
+    // Read-only when made so, when inactive, when the member of the type has
+    // no setter, or when the whole value can't be written back.
+    bool subIsReadOnly() const override {
+        return !m_isActive || m_isReadOnly || m_source.isReadOnly() || m_base.isReadOnly() ||
+               kyrxCast<KyRxProperty>(&m_base) == nullptr;
     }
 
     // Its own localized name when it has one, else the type member's.

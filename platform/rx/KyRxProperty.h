@@ -1,7 +1,8 @@
 // Properties: scalar (KyRxProperty), sequences (KyRxCollectionProperty), by
 // position (KyRxIndexedProperty) and by name (KyRxDictionaryProperty). The
 // public calls pass through the sub* virtuals; a property without a setter
-// refuses writes.
+// refuses writes, and says so through isReadOnly so that a palette can show
+// it as such before anyone tries.
 #pragma once
 
 #include "rx/KyRxMember.h"
@@ -11,8 +12,15 @@ class KYPLATFORM_API KyRxPropertyBase : public KyRxMember {
 public:
     KYRX_DECLARE_MEMBERS(KyRxPropertyBase);
 
+    // True when the property refuses every write by construction (it has no
+    // setter). False does not promise that a write succeeds: an object may
+    // still refuse a value, or refuse writes while it is not open for write.
+    bool isReadOnly() const { return subIsReadOnly(); }
+
 protected:
     KyRxPropertyBase(const wchar_t* name, const KyRxValueType& type, const KyRxObject* owner);
+    // False unless a property class says otherwise.
+    virtual bool subIsReadOnly() const;
     // A property of a type with members (a point, tone parameters) has a
     // sub-property for each of them.
     Kyro::ErrorStatus subChildren(KyRxMemberArray& children) const override;
@@ -57,6 +65,9 @@ protected:
                            const KyRxObject* owner = nullptr);
     virtual KyRxValueIterator* subNewValueIterator(const KyRxObject* object) const;
     virtual Kyro::ErrorStatus subTryGetCount(const KyRxObject* object, int& count) const;
+    // A collection as such is only read: read-only, unless a kind of
+    // collection that can be written (by index, by name) says otherwise.
+    bool subIsReadOnly() const override;
 };
 
 class KYPLATFORM_API KyRxIndexedProperty : public KyRxCollectionProperty {
@@ -79,6 +90,7 @@ protected:
     virtual Kyro::ErrorStatus subInsertValue(KyRxObject* object, int index,
                                              const KyRxValue& value) const;
     virtual Kyro::ErrorStatus subRemoveValue(KyRxObject* object, int index) const;
+    bool subIsReadOnly() const override;
 };
 
 class KYPLATFORM_API KyRxDictionaryProperty : public KyRxCollectionProperty {
@@ -97,11 +109,13 @@ protected:
                                           KyRxValue& value) const;
     virtual Kyro::ErrorStatus subSetValue(KyRxObject* object, const wchar_t* key,
                                           const KyRxValue& value) const;
+    bool subIsReadOnly() const override;
 };
 
 // A property that reads and writes member `subName` of the value of `base`
 // (the "X" of a point property), owned by `base`. An inactive sub-property
-// answers eNotApplicable; a read-only one refuses writes. Null when `base` is
+// answers eNotApplicable; a read-only one refuses writes, and so does one of
+// a base that is read-only itself (isReadOnly says so). Null when `base` is
 // null or its type has no member `subName`.
 KYPLATFORM_API KyRxProperty* makeSubProperty(const KyRxPropertyBase* base, const wchar_t* name,
                                              const wchar_t* subName, bool isActive,

@@ -51,6 +51,8 @@ protected:
         return m_setter(*payload, *field) ? Kyro::eOk : Kyro::eInvalidInput;
     }
 
+    bool subIsReadOnly() const override { return m_setter == nullptr; }
+
 private:
     Getter m_getter;
     Setter m_setter;

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "KyRefFormulas.h"
 #include "KyRefMemberList.h"
 #include "KyRefReadContext.h"
 #include "KyRefValueForms.h"
@@ -67,10 +68,15 @@ const KyRefMemberList kTextMembers{kCommon,
                                     {"height"},
                                     {"text"},
                                     {"style", "\"Standard\""},
-                                    {"rotation", "0"}}};
-const KyRefMemberList kMTextMembers{
-    kCommon,
-    {{"position", nullptr, true}, {"height"}, {"text"}, {"style", "\"Standard\""}, {"width", "0"}}};
+                                    {"rotation", "0"},
+                                    {"formulas", "{}"}}};
+const KyRefMemberList kMTextMembers{kCommon,
+                                    {{"position", nullptr, true},
+                                     {"height"},
+                                     {"text"},
+                                     {"style", "\"Standard\""},
+                                     {"width", "0"},
+                                     {"formulas", "{}"}}};
 const KyRefMemberList kInsertMembers{kCommon,
                                      {{"block"},
                                       {"position", nullptr, true},
@@ -78,9 +84,14 @@ const KyRefMemberList kInsertMembers{kCommon,
                                       {"rotation", "0"},
                                       {"attributes", "[]", false, "tag text"},
                                       {"dynamic", "false"}}};
-const KyRefMemberList kDimensionMembers{
-    kCommon,
-    {{"dimStyle", "\"Standard\""}, {"block"}, {"points", "[]"}, {"measurement"}, {"text", "\"\""}}};
+const KyRefMemberList kDimensionMembers{kCommon,
+                                        {{"dimStyle", "\"Standard\""},
+                                         {"block"},
+                                         {"points", "[]"},
+                                         {"measurement"},
+                                         {"text", "\"\""},
+                                         {"decimalPlaces", "4"},
+                                         {"formulas", "{}"}}};
 const KyRefMemberList kLeaderMembers{kCommon, {{"points"}, {"dimStyle", "\"Standard\""}}};
 const KyRefMemberList kMLeaderMembers{kCommon, {{"style"}, {"points"}, {"text", "\"\""}}};
 const KyRefMemberList kViewportMembers{kCommon,
@@ -258,6 +269,9 @@ KyDbEntity* readText(KyRefReadContext& context, const KyRefJsonNode& node) {
     text->setTextStyle(textStyleOf(context, node));
     optionalNumber(node, "rotation", "an angle",
                    [&](double angle) { return text->setRotation(angle); });
+    KyRefFormulas::read(node, {{"height", "a positive height", [&](const wchar_t* formula) {
+                                    return text->setHeightFormula(formula);
+                                }}});
     return text.release();
 }
 
@@ -268,6 +282,7 @@ void writeText(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& 
     out["text"] = kyrefUtf8(text.textString());
     out["style"] = context.recordName(text.textStyle());
     out["rotation"] = text.rotation();
+    KyRefFormulas::write(out, {{"height", &text.heightFormula()}});
 }
 
 KyDbEntity* readMText(KyRefReadContext& context, const KyRefJsonNode& node) {
@@ -279,6 +294,9 @@ KyDbEntity* readMText(KyRefReadContext& context, const KyRefJsonNode& node) {
     text->setTextStyle(textStyleOf(context, node));
     optionalNumber(node, "width", "a width of 0 or more",
                    [&](double width) { return text->setWidth(width); });
+    KyRefFormulas::read(node, {{"height", "a positive height", [&](const wchar_t* formula) {
+                                    return text->setTextHeightFormula(formula);
+                                }}});
     return text.release();
 }
 
@@ -289,6 +307,7 @@ void writeMText(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson&
     out["text"] = kyrefUtf8(text.contents());
     out["style"] = context.recordName(text.textStyle());
     out["width"] = text.width();
+    KyRefFormulas::write(out, {{"height", &text.textHeightFormula()}});
 }
 
 // ---- Block references
@@ -382,6 +401,12 @@ KyDbEntity* readDimension(KyRefReadContext& context, const KyRefJsonNode& node) 
     optionalNumber(node, "measurement", "a measurement",
                    [&](double value) { return dimension->setMeasurement(value); });
     dimension->setDimensionText(node.text("text", L""));
+    dimension->setDecimalPlaces(
+        node.integer("decimalPlaces", 4, 0, KyDbDimension::kMaxDecimalPlaces));
+    KyRefFormulas::read(
+        node,
+        {{"decimalPlaces", "a number of decimal places from 0 to 8",
+          [&](const wchar_t* formula) { return dimension->setDecimalPlacesFormula(formula); }}});
     return dimension.release();
 }
 
@@ -396,6 +421,8 @@ void writeDimension(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJ
         out["measurement"] = dimension.measurement();
     }
     out["text"] = kyrefUtf8(dimension.dimensionText());
+    out["decimalPlaces"] = dimension.decimalPlaces();
+    KyRefFormulas::write(out, {{"decimalPlaces", &dimension.decimalPlacesFormula()}});
 }
 
 KyDbEntity* readLeader(KyRefReadContext& context, const KyRefJsonNode& node) {

@@ -1,8 +1,8 @@
 // The database classes through the member query engine: what a palette
 // finds on an entity and on a layer, reads and writes with their open modes
 // and value types, reference paths from an object to the items of a table,
-// the names of a class, and a walk over every class that checks what each
-// placed property offers a palette.
+// the names of a class, which properties a palette may edit, and a walk over
+// every class that checks what each placed property offers a palette.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -13,10 +13,12 @@
 #include "base/KyRxResourceInstance.h"
 #include "db/KyDbBlockReference.h"
 #include "db/KyDbDictionaryWithDefault.h"
+#include "db/KyDbDimension.h"
 #include "db/KyDbHostApplicationServices.h"
 #include "db/KyDbLine.h"
 #include "db/KyDbPolyline.h"
 #include "db/KyDbStandardContent.h"
+#include "db/KyDbText.h"
 #include "db/KyDbUnknownEntity.h"
 #include "rx/KyRxClass.h"
 #include "rx/KyRxDictionary.h"
@@ -222,6 +224,39 @@ TEST_F(ReflectionTest, ALayerShowsWhatAPaletteEditsOfIt) {
               Kyro::eNotApplicable);
 }
 
+TEST_F(ReflectionTest, APaletteKnowsWhichPropertiesItMayEditBeforeItTries) {
+    KyDbObjectPointer<KyDbLayerTableRecord> layer(walls, KyDb::kForRead);
+    EXPECT_FALSE(findProperty(layer.object(), L"Name")->isReadOnly());
+    EXPECT_FALSE(findProperty(layer.object(), L"Color")->isReadOnly());
+    EXPECT_TRUE(findProperty(layer.object(), L"IsDependent")->isReadOnly());
+    EXPECT_TRUE(findProperty(layer.object(), L"ClassName")->isReadOnly());
+    EXPECT_TRUE(findProperty(db, L"LayerTableId")->isReadOnly());
+
+    KyDbDimension dimension;
+    EXPECT_TRUE(findProperty(&dimension, L"Measurement")->isReadOnly());
+    EXPECT_FALSE(findProperty(&dimension, L"DecimalPlaces")->isReadOnly());
+    const auto* points = kyrxCast<KyRxIndexedProperty>(
+        engine()->find(&dimension, L"Points", engine()->promotingContext()));
+    ASSERT_NE(points, nullptr);
+    EXPECT_FALSE(points->isReadOnly()) << "points are written one by one";
+
+    KyDbText text;
+    const KyRxMemberArray* coordinates = findProperty(&text, L"Position")->children();
+    ASSERT_NE(coordinates, nullptr);
+    const auto* x = kyrxCast<KyRxProperty>((*coordinates)[0]);
+    ASSERT_NE(x, nullptr);
+    EXPECT_STREQ(x->name(), L"X");
+    EXPECT_FALSE(x->isReadOnly());
+    EXPECT_EQ(x->setValue(&text, KyRxValue(4.0)), Kyro::eOk);
+    EXPECT_EQ(text.position().x, 4.0);
+
+    KyDbObjectPointer<KyDbLayerTable> table(db->layerTableId(), KyDb::kForRead);
+    const auto* items = kyrxCast<KyRxCollectionProperty>(
+        engine()->find(table.object(), L"Items", engine()->promotingContext()));
+    ASSERT_NE(items, nullptr);
+    EXPECT_TRUE(items->isReadOnly()) << "records come and go through their table";
+}
+
 TEST_F(ReflectionTest, ClassNameIsEmptyUnlessTheClassCannotTellTheKind) {
     auto* solid = new KyDbUnknownEntity();
     solid->setTypeName(L"SOLID");
@@ -328,6 +363,10 @@ TEST_F(ReflectionTest, EveryPlacedPropertyIsNamedInBothLanguagesAndReadsOnANewOb
                 KyRxValue value;
                 EXPECT_EQ(property->getValue(object.get(), value), Kyro::eOk) << where;
                 EXPECT_EQ(&value.type(), &property->type()) << where;
+                if (property->isReadOnly()) {
+                    EXPECT_EQ(property->setValue(object.get(), value), Kyro::eNotApplicable)
+                        << where << " says it is read-only, so refuses even its own value";
+                }
             } else if (const auto* collection = kyrxCast<KyRxCollectionProperty>(member)) {
                 int count = -1;
                 EXPECT_EQ(collection->tryGetCount(object.get(), count), Kyro::eOk) << where;

@@ -1,6 +1,7 @@
 // Properties: the refusals of the defaults, collection properties with their
-// value iterators, and sub-properties that read and write one coordinate of a
-// composite value through the property that holds it.
+// value iterators, sub-properties that read and write one coordinate of a
+// composite value through the property that holds it, and which properties
+// say they are read-only.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -287,4 +288,38 @@ TEST(SubProperties, NoSubPropertyForAnUnknownCoordinateOrANonCompositeBase) {
     EXPECT_EQ(makeSubProperty(corner, L"W", L"W", true, false), nullptr);
     EXPECT_EQ(makeSubProperty(shapeProperty(L"Width"), L"U", L"U", true, false), nullptr);
     EXPECT_EQ(makeSubProperty(nullptr, L"U", L"U", true, false), nullptr);
+}
+
+TEST(ReadOnlyProperties, APropertyWithoutAWayToWriteSaysSoAndTheRestDoNot) {
+    EXPECT_TRUE(shapeProperty(L"Width")->isReadOnly()) << "no setter";
+    EXPECT_FALSE(shapeProperty(L"Name")->isReadOnly());
+    MemberPtr<BareProperty> bare(new BareProperty());
+    EXPECT_FALSE(bare->isReadOnly()) << "a property class is writable unless it says otherwise";
+    MemberPtr<BareCollectionProperty> collection(new BareCollectionProperty());
+    EXPECT_TRUE(collection->isReadOnly()) << "a plain collection has no write at all";
+    MemberPtr<BareDictionaryProperty> dictionary(new BareDictionaryProperty());
+    EXPECT_FALSE(dictionary->isReadOnly());
+    MemberPtr<NumbersProperty> numbers(new NumbersProperty());
+    EXPECT_FALSE(numbers->isReadOnly());
+}
+
+TEST(ReadOnlyProperties, ASubPropertyIsReadOnlyWhenMadeSoOrWhenItsValueCantBeWrittenBack) {
+    const KyRxProperty* corner = shapeProperty(L"Corner");
+    EXPECT_FALSE(kyrxCast<KyRxProperty>((*corner->children())[0])->isReadOnly());
+    MemberPtr<KyRxProperty> across(makeSubProperty(corner, L"Across", L"U", true, false));
+    EXPECT_FALSE(across->isReadOnly());
+    MemberPtr<KyRxProperty> readOnly(makeSubProperty(corner, L"V", L"V", true, true));
+    EXPECT_TRUE(readOnly->isReadOnly());
+    MemberPtr<KyRxProperty> inactive(makeSubProperty(corner, L"U", L"U", false, false));
+    EXPECT_TRUE(inactive->isReadOnly());
+
+    MemberPtr<TestProperty> fixedCorner(new TestProperty(L"FixedCorner",
+                                                         KyRxValueType::Desc<TestPoint>::value(),
+                                                         [](const KyRxObject*, KyRxValue& fixed) {
+                                                             fixed = TestPoint{1.0, 2.0};
+                                                             return Kyro::eOk;
+                                                         }));
+    MemberPtr<KyRxProperty> fixedU(makeSubProperty(fixedCorner.get(), L"U", L"U", true, false));
+    EXPECT_TRUE(fixedU->isReadOnly()) << "the whole corner can't be written";
+    EXPECT_TRUE(kyrxCast<KyRxProperty>((*fixedCorner->children())[1])->isReadOnly());
 }

@@ -35,6 +35,7 @@ public:
 protected:
     Kyro::ErrorStatus subGetValue(const KyRxObject* object, KyRxValue& value) const override;
     Kyro::ErrorStatus subSetValue(KyRxObject* object, const KyRxValue& value) const override;
+    bool subIsReadOnly() const override { return m_setter == nullptr; }
 
 private:
     Getter m_getter;

@@ -65,6 +65,19 @@ TEST(PointMembers, OnlyABoxedPointAndADoubleWillDo) {
     EXPECT_TRUE(result.isEmpty());
 }
 
+TEST(PointMembers, AMemberWithoutASetterIsReadOnlyAndRefusesWrites) {
+    EXPECT_FALSE(memberOf<KyGePoint3d>(L"X")->isReadOnly());
+    using Coordinate = KyRxValueMemberProperty<KyGePoint3d, double>;
+    const std::unique_ptr<Coordinate, void (*)(const KyRxMember*)> fixedX(
+        new Coordinate(L"FixedX", nullptr, [](const KyGePoint3d& p) { return p.x; }),
+        &KyRxMember::deleteMember);
+    EXPECT_TRUE(fixedX->isReadOnly());
+    KyRxValue point(KyGePoint3d(1.0, 2.0, 3.0));
+    KyRxBoxedValueOnStack box(point);
+    EXPECT_EQ(Kyro::eNotApplicable, fixedX->setValue(&box, KyRxValue(5.0)));
+    EXPECT_EQ(1.0, readDouble(fixedX.get(), &box));
+}
+
 TEST(PointMembers, APointReadsAsItsCoordinates) {
     EXPECT_EQ(KyString(L"1,2.5,-3"), KyRxValue(KyGePoint3d(1.0, 2.5, -3.0)).text());
     EXPECT_EQ(KyString(L"0,0,0"), KyRxValue(KyGePoint3d::kOrigin).text());

@@ -1,0 +1,7 @@
+#include "rx/KyRxPropertyExpressionPE.h"
+
+#include "rx/KyRxClass.h"
+
+KYRX_DEFINE_MEMBERS(KyRxPropertyExpressionPE, KyRxObject)
+
+KyRxPropertyExpressionPE::~KyRxPropertyExpressionPE() = default;
