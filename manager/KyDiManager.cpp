@@ -3,18 +3,24 @@
 #include <utility>
 
 #include "kydi/KyDiDataItemReactor.h"
+#include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiHost.h"
 #include "kydi/KyDiManagerReactor.h"
 #include "kydi/KyDiSysVar.h"
 #include "manager/KyDiManagerModule.h"
 #include "manager/KyDiManagerState.h"
 #include "manager/KyDiReflectedClasses.h"
+#include "manager/LocalDataItemCache.h"
 #include "manager/MemberReactor.h"
+#include "manager/NameConverters.h"
+#include "manager/ObjectReactorHub.h"
 #include "manager/RefreshPass.h"
 #include "manager/host/DataItemHostReactor.h"
 #include "manager/host/IKyDiCustomContextHost.h"
 #include "manager/host/IKyDiSymbolTableRegisterHost.h"
+#include "objects/ItemMembers.h"
 #include "pal/KyPal.h"
+#include "reflection/KyDiExpressionProperties.h"
 #include "rx/KyRxStandardAttributes.h"
 #include "sysvars/KyUiImpSysVar.h"
 #include "sysvars/SysVarTable.h"
@@ -49,7 +55,8 @@ void KyDiManager::initialize(KyDiHost* host) {
         host->addReactor(state.hostReactor);
     }
 
-    // Here come the item cache and the selection's effective property.
+    state.localItemCache = new LocalDataItemCache();
+    // Here comes the selection's effective property.
 
     KyDiReflectedClasses::registerAll();
     kyrxBuildClassHierarchy();
@@ -63,8 +70,9 @@ void KyDiManager::initialize(KyDiHost* host) {
     if (IKyDiSymbolTableRegisterHost* symbolTables = IKyDiSymbolTableRegisterHost::instance()) {
         symbolTables->registerDataItemFactories();
     }
-    // Here come the known-collection rows with their paths, the name
-    // converters and the layer facet provider.
+    // Here come the known-collection rows with their paths.
+    NameConverters::install();
+    // Here comes the layer facet provider.
 
     state.memberReactor = new MemberReactor();
     KyRxMemberQueryEngine::theEngine()->addReactor(state.memberReactor);
@@ -96,8 +104,16 @@ void KyDiManager::uninitialize() {
 
     state.managerShutDown = true;
 
-    // Here come the layer facet provider leaving the query engine, and the
-    // item cache releasing its value items and its tables.
+    // Here comes the layer facet provider leaving the query engine.
+
+    // The watches nobody took back come off their objects.
+    ObjectReactorHub::releaseAll();
+    if (state.localItemCache != nullptr) {
+        state.localItemCache->releaseValueItems();
+        state.localItemCache->releaseTables();
+        delete state.localItemCache;
+        state.localItemCache = nullptr;
+    }
 
     if (state.memberReactor != nullptr) {
         KyRxMemberQueryEngine::theEngine()->removeReactor(state.memberReactor);
@@ -111,13 +127,12 @@ void KyDiManager::uninitialize() {
         KyRxMember::deleteMember(wrapper);
     }
 
-    // Here come the members that the item classes cached, before their
-    // classes.
+    // Every item is gone: the members they shared go before their classes.
+    ItemMembers::releaseAll();
 
     KyDiReflectedClasses::deleteAll();
 
-    // Last comes the value type of expression values, taken out of the class
-    // dictionary.
+    KyDiExpressionProperties::removeTypeFromClassDictionary();
 }
 
 KyDiHost* KyDiManager::getHost() {
@@ -155,15 +170,25 @@ KyDiSysVar* KyDiManager::getSysVar(const wchar_t* name) {
     return sysVar;
 }
 
+Kyro::ErrorStatus KyDiManager::addObjectReactor(const KyDbObjectId& id,
+                                                KyDiObjectReactor* reactor) {
+    return ObjectReactorHub::add(id, reactor);
+}
+
+Kyro::ErrorStatus KyDiManager::removeObjectReactor(const KyDbObjectId& id,
+                                                   KyDiObjectReactor* reactor) {
+    return ObjectReactorHub::remove(id, reactor);
+}
+
 void KyDiManager::refresh() {
     RefreshPass::run(true);
 }
 
 const KyRxPropertyBase* KyDiManager::parseReference(const wchar_t* path, const KyRxObject* object) {
-    // Values read on the way are taken as they are: data items, which would
-    // have to become the host's values, come with their own conversion.
+    // A value read on the way may be a data item: it becomes the host's value
+    // (an item of a record its id) before the next step opens it.
     return KyRxRefersToAttribute::parseReference(
-        path, object, KyDiManagerModule::resolveReferenceProperty, nullptr);
+        path, object, KyDiManagerModule::resolveReferenceProperty, KyDiConvertFromDataItem);
 }
 
 void KyDiManager::addReactor(KyDiDataItemReactor* reactor) {

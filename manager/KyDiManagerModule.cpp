@@ -1,6 +1,9 @@
 #include "manager/KyDiManagerModule.h"
 
+#include <memory>
+
 #include "kydi/KyDiDataItemReactor.h"
+#include "kydi/KyDiDynamicObject.h"
 #include "manager/KyDiManagerState.h"
 #include "rx/KyRxMemberQueryEngine.h"
 #include "rx/KyRxProperty.h"
@@ -21,9 +24,18 @@ void KyDiManagerModule::registerWrappedMember(const KyRxMember* hostMember, KyRx
 
 const KyRxPropertyBase* KyDiManagerModule::resolveReferenceProperty(const KyRxObject* object,
                                                                     const wchar_t* name) {
-    // Dynamic objects, which list their members themselves, take their own
-    // iterator ahead of this once they exist; any other object, and a null
-    // one, is asked of the query engine.
-    const KyRxMember* member = KyRxMemberQueryEngine::theEngine()->find(object, name, nullptr);
-    return kyrxCast<KyRxPropertyBase>(member);
+    // A dynamic object lists its members itself; any other object, and a
+    // null one, is asked of the query engine.
+    auto* dynamicObject = kyrxCast<KyDiDynamicObject>(const_cast<KyRxObject*>(object));
+    if (dynamicObject == nullptr) {
+        const KyRxMember* member = KyRxMemberQueryEngine::theEngine()->find(object, name, nullptr);
+        return kyrxCast<KyRxPropertyBase>(member);
+    }
+    const std::unique_ptr<KyRxMemberIterator> members(dynamicObject->newMemberIterator());
+    for (; members != nullptr && !members->done(); members->next()) {
+        if (KyString(members->current()->name()).compare(name) == 0) {
+            return kyrxCast<KyRxPropertyBase>(members->current());
+        }
+    }
+    return nullptr;
 }

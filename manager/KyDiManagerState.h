@@ -18,8 +18,12 @@ class KyDiExternalReferenceHost;
 class KyDiHost;
 class KyDiManagerReactor;
 class KyDiSysVar;
+class KyRxClass;
 class KyRxMember;
+class LocalDataItemCache;
+class LooseItem;
 class MemberReactor;
+struct NameConverterRow;
 
 struct KyDiManagerState {
     // The host given to initialize; not owned, never cleared.
@@ -32,11 +36,17 @@ struct KyDiManagerState {
     // Told by the query engine when a member goes; owned from initialize to
     // uninitialize.
     MemberReactor* memberReactor = nullptr;
+    // The items of records and values; owned from initialize to uninitialize.
+    LocalDataItemCache* localItemCache = nullptr;
 
     // System variable objects by name (case-sensitive); owned.
     std::map<KyString, KyDiSysVar*, KyStringLess> sysVars;
     // Host member to the wrapper member built for it; the wrappers are owned.
     std::map<const KyRxMember*, KyRxMember*> wrappedMembers;
+    // Record class to the row that puts its names into the user's language.
+    std::map<const KyRxClass*, const NameConverterRow*> nameConverters;
+    // The watches of the object reactor hub; owned.
+    KyArray<LooseItem*> looseItems;
 
     // Reactors and handlers of clients; not owned.
     KyArray<KyDiDataItemReactor*> dataItemReactors;

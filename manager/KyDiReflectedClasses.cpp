@@ -4,41 +4,9 @@
 
 #include "manager/host/IKyDiCustomContextHost.h"
 
-namespace {
+using enum KyDiReflectedClasses::ClassIndex;
 
-// The classes by index into the table below.
-enum ClassIndex : int {
-    kItem,
-    kNamedItem,
-    kLayerFilterItemBase,
-    kLayerFilterItem,
-    kLayerFilterTreeItem,
-    kDbItem,
-    kDbComplexItem,
-    kDbNamedItem,
-    kDbDictionaryItem,
-    kDbLayerItem,
-    kDynamicObject,
-    kObservableDynamicObject,
-    kContext,
-    kProperty,
-    kCollectionProperty,
-    kIndexedProperty,
-    kDictionaryProperty,
-    kContextBase,
-    kDbObjectContext,
-    kRolloverTipsContext,
-    kDrawingContext,
-    kSelectionContext,
-    kViewportContext,
-    kRenderContext,
-    kLayerFacet,
-    kRxObjectContext,
-    kMeasureGeomContext,
-    kClassCount,
-    // Not a row: the place of the custom context host's own classes.
-    kCustomContextHostClasses = -1,
-};
+namespace {
 
 struct ReflectedClassRow {
     const wchar_t* name;
@@ -190,6 +158,10 @@ void KyDiReflectedClasses::registerAll() {
         const ReflectedClassRow& row = kRows[index];
         registerClass(g_descriptors[index], row.name, row.parentName, row.memberBuilder);
     }
+}
+
+KyRxClass* KyDiReflectedClasses::descriptor(ClassIndex index) {
+    return g_descriptors[index];
 }
 
 void KyDiReflectedClasses::deleteAll() {

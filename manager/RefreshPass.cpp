@@ -6,6 +6,8 @@
 #include "kydi/KyDiManagerReactor.h"
 #include "kydi/KyDiSysVar.h"
 #include "manager/KyDiManagerState.h"
+#include "manager/LocalDataItemCache.h"
+#include "manager/ObjectReactorHub.h"
 #include "manager/host/KyDiHostAccess.h"
 #include "pal/KyPal.h"
 #include "sysvars/KyUiImpSysVar.h"
@@ -43,8 +45,11 @@ void RefreshPass::run(bool force) {
     // Here come, in this order: the item cache's erased items taken, "LAYER"
     // and "BLOCK" updated ahead of the other known collections, the
     // enumeration collections following the current document, the effective
-    // properties and the context manager flushed, the object reactor hub
-    // passed over, and the item cache ending its pass.
+    // properties and the context manager flushed.
+    ObjectReactorHub::pass();
+    if (state.localItemCache != nullptr) {
+        state.localItemCache->endOfRefresh();
+    }
     tellRefreshEnded();
     callNotifyHandlers();
 }

@@ -4,12 +4,15 @@
 // client deletes nothing it is given, and removes the reactors it added.
 #pragma once
 
+#include "base/KyroErrorStatus.h"
 #include "kydi/KyDiExport.h"
 
 class KyDiDataItemReactor;
 class KyDiExternalReferenceHost;
 class KyDiHost;
 class KyDiManagerReactor;
+class KyDiObjectReactor;
+class KyDbObjectId;
 class KyDiSysVar;
 class KyRxObject;
 class KyRxPropertyBase;
@@ -38,6 +41,17 @@ public:
     // and kept until uninitialize. Null when the host can't read the variable:
     // then nothing is kept, and the next request asks the host again.
     static KyDiSysVar* getSysVar(const wchar_t* name);
+
+    // Watches the object of `id` for `reactor`, which is told at the next
+    // refresh pass after the object changed, was erased or left memory, and
+    // when its document stops or starts being the current one. Answers the
+    // status of opening the object for read (an erased object can't be
+    // watched). Two reactors on one object make two records.
+    static Kyro::ErrorStatus addObjectReactor(const KyDbObjectId& id, KyDiObjectReactor* reactor);
+    // Takes the watch back; `id` may be the id of an object erased since.
+    // eOk, or a status other than eOk for a pair that is not watched.
+    static Kyro::ErrorStatus removeObjectReactor(const KyDbObjectId& id,
+                                                 KyDiObjectReactor* reactor);
 
     // A refresh pass that is never held back: everything that changed since
     // the last pass is read and told to the reactors.

@@ -2,6 +2,8 @@
 
 #include "kydi/KyDiSysVar.h"
 #include "manager/KyDiManagerState.h"
+#include "manager/LocalDataItemCache.h"
+#include "manager/ObjectReactorHub.h"
 #include "manager/RefreshPass.h"
 #include "manager/host/KyDiHostAccess.h"
 #include "sysvars/KyUiImpSysVar.h"
@@ -11,18 +13,26 @@ void DataItemHostReactor::refreshNeeded(bool force) {
 }
 
 void DataItemHostReactor::documentToBeDestroyed(KyDiDocument document) {
-    // Here come, in this order, all that lets go of the document before it is
-    // marked: the known collections, the enumeration collections, the
-    // effective properties, the context manager and the built contexts, the
-    // object reactor hub and the item cache.
-    kydiManagerState().dyingDatabase = document;
+    KyDiManagerState& state = kydiManagerState();
+    // Here come, in this order, the known collections, the enumeration
+    // collections, the effective properties, the context manager and the
+    // built contexts letting go of the document.
+    ObjectReactorHub::documentToBeDestroyed(document);
+    if (state.localItemCache != nullptr) {
+        state.localItemCache->retireDocument(document);
+        state.localItemCache->forgetLastDocument();
+    }
+    state.dyingDatabase = document;
     // From here on the document counts as gone, and the pass tells everybody.
     RefreshPass::run(true);
 }
 
 void DataItemHostReactor::documentDestroyed() {
-    // Here comes the item cache, marked to release what it retired from the
-    // document.
+    // What the cache set aside for the document may go at the end of the next
+    // pass: nothing can reach its records any more.
+    if (LocalDataItemCache* cache = kydiManagerState().localItemCache) {
+        cache->setReleaseRetired();
+    }
 }
 
 void DataItemHostReactor::documentDestructionDone() {

@@ -23,6 +23,11 @@ KyDiViewportService* KyDiHostAccess::viewportService() {
     return current != nullptr ? current->viewportService() : nullptr;
 }
 
+KyDiLayerService* KyDiHostAccess::layerService() {
+    KyDiHost* current = host();
+    return current != nullptr ? current->layerService() : nullptr;
+}
+
 KyDiExternalReferenceHost* KyDiHostAccess::xrefHost() {
     return kydiManagerState().xrefHost;
 }
@@ -45,6 +50,20 @@ KyDiDocument KyDiHostAccess::rawCurrentDocument() {
 KyDbDatabase* KyDiHostAccess::workingDatabase() {
     KyDiDocumentManager* documents = documentManager();
     return documents != nullptr ? documents->workingDatabase() : nullptr;
+}
+
+KyDiDocument KyDiHostAccess::documentOf(KyDbDatabase* database) {
+    KyDiDocumentManager* documents = documentManager();
+    return documents != nullptr && database != nullptr ? documents->documentOf(database)
+                                                       : kKyDiNoDocument;
+}
+
+KyDbDatabase* KyDiHostAccess::databaseOf(KyDiDocument document) {
+    KyDiDocumentManager* documents = documentManager();
+    if (documents == nullptr || document == kKyDiNoDocument || document == kKyDiUnboundDocument) {
+        return nullptr;
+    }
+    return documents->databaseOf(document);
 }
 
 bool KyDiHostAccess::readShort(const wchar_t* name, short& value) {

@@ -9,6 +9,7 @@ class KyDiDocumentManager;
 class KyDiEditorService;
 class KyDiExternalReferenceHost;
 class KyDiHost;
+class KyDiLayerService;
 class KyDiViewportService;
 
 class KyDiHostAccess {
@@ -19,6 +20,7 @@ public:
     static KyDiDocumentManager* documentManager();
     static KyDiEditorService* editor();
     static KyDiViewportService* viewportService();
+    static KyDiLayerService* layerService();
     static KyDiExternalReferenceHost* xrefHost();
 
     // The current document: the document manager's answer, except that the
@@ -29,6 +31,11 @@ public:
     static KyDiDocument rawCurrentDocument();
     // The database that commands work on now; null without one.
     static KyDbDatabase* workingDatabase();
+    // The document that owns `database`; no document for a database without
+    // one (or a null database).
+    static KyDiDocument documentOf(KyDbDatabase* database);
+    // The database of `document`; null for no document or one without.
+    static KyDbDatabase* databaseOf(KyDiDocument document);
 
     // Reads a 16-bit system variable through the editor service; false, with
     // `value` 0, without an editor service, when the host refuses the read or

@@ -6,7 +6,11 @@
 
 bool KyDbPropertyExpression::isExpression(const KyRxObject* object,
                                           const KyRxMember* member) const {
-    return !getExpression(object, member).isEmpty();
+    if (accessOf(member) != nullptr) {
+        return true;
+    }
+    const KyRxPropertyExpressionPE* parent = inherited();
+    return parent != nullptr && parent->isExpression(object, member);
 }
 
 KyString KyDbPropertyExpression::getExpression(const KyRxObject* object,

@@ -6,12 +6,12 @@
 //   const auto* formulas = kyrxCast<KyRxPropertyExpressionPE>(
 //       object->queryX(KyRxPropertyExpressionPE::desc()));
 //   if (formulas != nullptr && formulas->isExpression(object, height)) {
-//       KyString text = formulas->getExpression(object, height);
+//       KyString text = formulas->getExpression(object, height);  // "" for a plain value
 //   }
 //
 // The extension answers for the members of the class it is registered on
 // (and of its parents' registrations, through queryX); a member that can't
-// hold a formula is never an expression, and setExpression refuses it with
+// hold a formula is no expression, and setExpression refuses it with
 // eNotApplicable.
 #pragma once
 
@@ -27,7 +27,8 @@ public:
     KYRX_DECLARE_MEMBERS(KyRxPropertyExpressionPE);
     ~KyRxPropertyExpressionPE() override;
 
-    // True when `member` of `object` holds a formula now.
+    // True when `member` of `object` takes a formula: it may hold one now
+    // (getExpression gives its text) or a plain value (the text is empty).
     virtual bool isExpression(const KyRxObject* object, const KyRxMember* member) const = 0;
     // The formula text; empty when the member holds a plain value.
     virtual KyString getExpression(const KyRxObject* object, const KyRxMember* member) const = 0;

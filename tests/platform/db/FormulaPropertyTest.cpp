@@ -49,7 +49,7 @@ protected:
         const KyRxProperty* property = propertyOf(object.object(), name);
         const KyRxPropertyExpressionPE* formulas = formulasOf(object.object());
         const KyString formula = formulas->getExpression(object.object(), property);
-        EXPECT_EQ(formulas->isExpression(object.object(), property), !formula.isEmpty());
+        EXPECT_TRUE(formulas->isExpression(object.object(), property));
         return formula.utf8();
     }
     // The value of property `name`, read as a palette reads it.

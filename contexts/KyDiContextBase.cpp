@@ -1,0 +1,28 @@
+#include "contexts/KyDiContextBase.h"
+
+#include <memory>
+
+#include "manager/KyDiReflectedClasses.h"
+#include "reflection/PropertyFilter.h"
+#include "reflection/PropertyWrapping.h"
+#include "rx/KyRxMemberQueryEngine.h"
+
+KYDI_DEFINE_CLASS_MEMBERS(KyDiContextBase, kContextBase)
+
+int KyDiContextBase::subRefresh() {
+    return 1;
+}
+
+void KyDiContextBase::subInvalidate() {}
+
+void KyDiContextBase::subDatabaseToBeDestroyed(void* /*database*/) {}
+
+void KyDiContextBase::subTerminate() {}
+
+KyRxMemberIterator* KyDiContextBase::newFilteredMemberIterator() {
+    KyRxMemberQueryEngine* engine = KyRxMemberQueryEngine::theEngine();
+    const std::unique_ptr<KyRxMemberIterator> members(
+        engine->newMemberIterator(this, engine->promotingContext()));
+    const std::unique_ptr<KyRxMemberIterator> shown(PropertyFilter::filter(this, members.get()));
+    return PropertyWrapping::wrapMembers(shown.get());
+}

@@ -1,0 +1,3 @@
+#include "kydi/KyDiProxy.h"
+
+KyDiProxy::~KyDiProxy() = default;

@@ -1,0 +1,46 @@
+// Free functions for clients that hold a dynamic object and want a name, a
+// description or a member without walking the reflection themselves.
+#pragma once
+
+#include "base/KyArray.h"
+#include "base/KyString.h"
+#include "db/KyDbObjectId.h"
+#include "kydi/KyDiExport.h"
+
+class KyDiDynamicObject;
+class KyRxMember;
+class KyRxMemberIterator;
+class KyRxObject;
+class KyRxPropertyBase;
+class KyRxValue;
+
+// The text of the object's "Name" member; empty for a null object or one
+// without a readable name.
+KYDI_API KyString KyDiGetItemName(KyDiDynamicObject* object);
+// The class of what a database item stands for: of its sub-entity for an item
+// of a sub-entity, else of its object. Empty for anything else, and when the
+// object can't be opened.
+KYDI_API KyString KyDiGetSubEntityClassName(KyDiDynamicObject* object);
+// The description of a member, of the host member behind it for a wrapper.
+KYDI_API KyString KyDiGetDescription(const KyRxMember* member);
+// The member `name` (exactly) of an object: for a dynamic object among the
+// members it shows, for any other object as the query engine finds it.
+KYDI_API KyRxMember* KyDiFindMember(const KyRxObject* object, const wchar_t* name);
+// A new iterator over the members of `iterator` that a palette shows on
+// `object`: scalar properties placed in a category (on themselves or on the
+// property they belong to) that can be read now. The caller keeps and deletes
+// `iterator`, and deletes the answer.
+KYDI_API KyRxMemberIterator* KyDiFilterProperties(const KyRxObject* object,
+                                                  KyRxMemberIterator* iterator);
+// A data item read from a property into the host's value for `property`: an
+// item of a record into its id, a colour or transparency item into its
+// value, an item of an enumerated value into the property's type. Other
+// values are left alone. Always true.
+KYDI_API bool KyDiConvertFromDataItem(const KyRxPropertyBase* property, KyRxValue& value);
+// A host value into a data item: an id into the item of its record, a colour
+// or a transparency into its value item. Other values are left alone. False
+// only for the null id, which stays an id.
+KYDI_API bool KyDiConvertToDataItem(KyRxValue& value);
+// The ids of the layers of a layer filter item of the flat filter list. The
+// caller is required to give such an item.
+KYDI_API const KyArray<KyDbObjectId>& GetFilterLayers(KyDiDynamicObject* item);

@@ -1,0 +1,83 @@
+// The helpers a client calls on the dynamic objects it holds.
+#include "kydi/KyDiFunctions.h"
+
+#include <cwchar>
+#include <memory>
+
+#include "db/KyDbObjectPointer.h"
+#include "db/KyDbSubEntityProvider.h"
+#include "kydi/KyDiDbComplexItem.h"
+#include "reflection/PropertyWrapping.h"
+#include "rx/KyRxMemberQueryEngine.h"
+#include "rx/KyRxProperty.h"
+#include "rx/KyRxStandardAttributes.h"
+
+KyString KyDiGetItemName(KyDiDynamicObject* object) {
+    if (object == nullptr) {
+        return KyString();
+    }
+    const std::unique_ptr<KyRxMemberIterator> members(object->newMemberIterator());
+    if (members == nullptr) {
+        return KyString();
+    }
+    for (; !members->done(); members->next()) {
+        const auto* property = kyrxCast<KyRxProperty>(members->current());
+        if (property == nullptr || std::wcscmp(property->name(), L"Name") != 0) {
+            continue;
+        }
+        KyRxValue value;
+        if (property->getValue(object, value) != Kyro::eOk) {
+            continue;
+        }
+        if (const KyString* text = valueCast<KyString>(&value)) {
+            return *text;
+        }
+        if (const wchar_t* const* text = valueCast<const wchar_t*>(&value)) {
+            return KyString(*text);
+        }
+    }
+    return KyString();
+}
+
+KyString KyDiGetSubEntityClassName(KyDiDynamicObject* object) {
+    const auto* item = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(object));
+    if (item == nullptr) {
+        return KyString();
+    }
+    KyDbObjectPointer<KyDbObject> opened(item->objectId(), KyDb::kForRead);
+    if (opened.openStatus() != Kyro::eOk) {
+        return KyString();
+    }
+    KyRxObject* subEntity = nullptr;
+    if (const auto* complex = kyrxCast<KyDiDbComplexItem>(static_cast<const KyRxObject*>(item))) {
+        // An id that names no part counts as the object itself.
+        KyDbSubEntityProvider::open(opened.object(), subEntity, complex->subentPath().subentId(),
+                                    KyDb::kForRead);
+    }
+    const KyRxObject* shown = subEntity != nullptr ? subEntity : opened.object();
+    const KyString name(shown->isA() != nullptr ? shown->isA()->name() : L"");
+    if (subEntity != nullptr) {
+        KyDbSubEntityProvider::close(opened.object(), subEntity);
+    }
+    return name;
+}
+
+KyString KyDiGetDescription(const KyRxMember* member) {
+    const KyRxMember* source = PropertyWrapping::sourceMember(member);
+    return KyRxDescriptionAttribute::getDescription(source != nullptr ? source : member);
+}
+
+KyRxMember* KyDiFindMember(const KyRxObject* object, const wchar_t* name) {
+    auto* dynamicObject = kyrxCast<KyDiDynamicObject>(const_cast<KyRxObject*>(object));
+    if (dynamicObject == nullptr) {
+        KyRxMemberQueryEngine* engine = KyRxMemberQueryEngine::theEngine();
+        return engine->find(object, name, engine->promotingContext());
+    }
+    const std::unique_ptr<KyRxMemberIterator> members(dynamicObject->newMemberIterator());
+    for (; members != nullptr && !members->done(); members->next()) {
+        if (name != nullptr && std::wcscmp(members->current()->name(), name) == 0) {
+            return members->current();
+        }
+    }
+    return nullptr;
+}

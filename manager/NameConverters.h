@@ -1,0 +1,31 @@
+// Not part of the interface: the names that a palette shows in the user's
+// language although the drawing keeps them in their global form: the
+// standard visual styles, the standard linetypes, the standard materials.
+// Each row names the collection, the property that holds the name, and the
+// reserved names it translates; initialize keys the rows by the record's
+// class.
+#pragma once
+
+class KyRxClass;
+class KyRxValue;
+
+struct NameConverterRow {
+    const wchar_t* collectionName;
+    const wchar_t* propertyName;
+    // Turns a reserved name into its local form (`toLocal`) or its global
+    // one; other texts stay. Answers a status that nobody reads.
+    int (*convert)(KyRxValue* value, bool toLocal);
+};
+
+class NameConverters {
+public:
+    // The rows, closed by one with a null name.
+    static const NameConverterRow* rows();
+    // Keys the rows of the visual styles, linetypes and materials by their
+    // record classes.
+    static void install();
+    // Translates `value`, read from `propertyName` of an object of `cls`, into
+    // the user's language when a row covers them (the property name compared
+    // without regard to case).
+    static void toLocal(const KyRxClass* cls, const wchar_t* propertyName, KyRxValue& value);
+};
