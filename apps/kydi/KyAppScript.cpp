@@ -4,6 +4,9 @@
 #include <optional>
 
 #include "KyAppHostEventPrinter.h"
+#include "KyAppMemberList.h"
+#include "KyAppObjectWatch.h"
+#include "KyAppPropertyValue.h"
 #include "KyAppSession.h"
 #include "KyAppStatementReader.h"
 #include "KyAppSysVarValue.h"
@@ -11,10 +14,17 @@
 #include "KyAppValue.h"
 #include "KyRefHost.h"
 #include "KyRefManualClock.h"
+#include "base/KyRxResourceInstance.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbHandle.h"
+#include "db/KyDbObjectPointer.h"
+#include "db/KyDbSymbolTable.h"
+#include "kydi/KyDiDataItemFactory.h"
+#include "kydi/KyDiDynamicObject.h"
+#include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiManager.h"
 #include "kydi/KyDiSysVar.h"
+#include "rx/KyRxProperty.h"
 
 namespace {
 
@@ -36,6 +46,10 @@ std::string statusText(Kyro::ErrorStatus status) {
             return "the variable can't be set";
         case Kyro::eNoCurrentDocument:
             return "no current document";
+        case Kyro::eWasErased:
+            return "the object is erased";
+        case Kyro::eLockViolation:
+            return "the document can't be locked";
         default:
             return "status " + std::to_string(static_cast<int>(status));
     }
@@ -48,6 +62,7 @@ KyAppScript::KyAppScript(KyAppSession& session, std::ostream& out)
 
 KyAppScript::~KyAppScript() {
     m_sysVarWatches.clear();
+    m_objectWatches.clear();
     if (m_hostPrinter != nullptr) {
         m_session.host().removeReactor(m_hostPrinter.get());
     }
@@ -68,8 +83,11 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"echo", 0, -1, "echo TEXT", &Script::echo},
         {"select", 0, -1, "select HANDLE...", &Script::select},
         {"log", 0, 0, "log", &Script::log},
-        {"watch", 1, 2, "watch host|sysvar NAME|collection NAME|context NAME", &Script::watch},
+        {"watch", 1, 2, "watch host|sysvar NAME|object HANDLE|collection NAME|context NAME",
+         &Script::watch},
         {"sysvar", 1, 2, "sysvar NAME [VALUE]", &Script::sysvar},
+        {"language", 1, 1, "language CODE", &Script::language},
+        {"members", 1, 1, "members HANDLE", &Script::members},
         {"items", 1, 1, "items COLLECTION", &Script::collectionStatement},
         {"current", 1, 2, "current COLLECTION [ITEM]", &Script::collectionStatement},
         {"get", 3, 3, "get COLLECTION ITEM PROPERTY", &Script::collectionStatement},
@@ -225,14 +243,10 @@ bool KyAppScript::select(const KyAppStatement& statement) {
     }
     std::vector<KyDbObjectId> ids;
     for (const KyAppWord& word : statement.words) {
-        const std::string digits = word.text.rfind('#', 0) == 0 ? word.text.substr(1) : word.text;
-        KyDbHandle handle;
         KyDbObjectId id;
-        if (!KyDbHandle::fromText(KyString::fromUtf8(digits), handle)) {
-            return fail(word.text + " is no handle");
-        }
-        if (document->database()->getKyDbObjectId(id, handle) != Kyro::eOk || id.isErased()) {
-            return fail("no object #" + KyString(handle.text()).utf8() + " in the drawing");
+        std::string error;
+        if (!objectOf(word, id, error)) {
+            return fail(error);
         }
         ids.push_back(id);
     }
@@ -270,13 +284,26 @@ bool KyAppScript::watch(const KyAppStatement& statement) {
         m_sysVarWatches.push_back(std::make_unique<KyAppSysVarWatch>(sysVar, m_out));
         return true;
     }
+    if (what == "object" && !name.empty()) {
+        KyDbObjectId id;
+        std::string error;
+        if (!objectOf(statement.words[1], id, error)) {
+            return fail(error);
+        }
+        auto watch = std::make_unique<KyAppObjectWatch>(id, m_out);
+        if (const Kyro::ErrorStatus status = watch->start(); status != Kyro::eOk) {
+            return fail("can't watch " + name + ": " + statusText(status));
+        }
+        m_objectWatches.push_back(std::move(watch));
+        return true;
+    }
     if (what == "collection" && !name.empty()) {
         return fail("unknown collection " + name);
     }
     if (what == "context" && !name.empty()) {
         return fail("unknown context " + name);
     }
-    return fail("usage: watch host|sysvar NAME|collection NAME|context NAME");
+    return fail("usage: watch host|sysvar NAME|object HANDLE|collection NAME|context NAME");
 }
 
 bool KyAppScript::sysvar(const KyAppStatement& statement) {
@@ -311,7 +338,109 @@ bool KyAppScript::sysvar(const KyAppStatement& statement) {
     return true;
 }
 
+bool KyAppScript::language(const KyAppStatement& statement) {
+    const KyString code = KyString::fromUtf8(statement.words[0].text);
+    const KyRxResourceInstance texts(L"kyplatform");
+    if (!texts.hasLanguage(code)) {
+        return fail("the platform has no texts in " + statement.words[0].text);
+    }
+    KyRxResourceInstance::setLanguage(code);
+    return true;
+}
+
+bool KyAppScript::members(const KyAppStatement& statement) {
+    KyDbObjectId id;
+    std::string error;
+    if (!objectOf(statement.words[0], id, error)) {
+        return fail(error);
+    }
+    KyDiDynamicObject* item = createDataItem(KyString(), KyRxValue(id));
+    m_out << KyAppValue::object(id.handle()).format() << ' '
+          << KyString(id.objectClass()->name()).utf8() << '\n';
+    KyAppMemberList::print(item, m_out);
+    deleteItem(item);
+    return true;
+}
+
+bool KyAppScript::objectOf(const KyAppWord& word, KyDbObjectId& id, std::string& error) {
+    KyRefDocument* document = currentDocument();
+    if (document == nullptr) {
+        error = "no document is open";
+        return false;
+    }
+    const std::string digits = word.text.rfind('#', 0) == 0 ? word.text.substr(1) : word.text;
+    KyDbHandle handle;
+    if (!KyDbHandle::fromText(KyString::fromUtf8(digits), handle)) {
+        error = word.text + " is no handle";
+        return false;
+    }
+    if (document->database()->getKyDbObjectId(id, handle) != Kyro::eOk || id.isErased()) {
+        error = "no object #" + KyString(handle.text()).utf8() + " in the drawing";
+        return false;
+    }
+    return true;
+}
+
+KyDiDynamicObject* KyAppScript::layerItem(const std::string& name, std::string& error) {
+    KyRefDocument* document = currentDocument();
+    if (document == nullptr) {
+        error = "no document is open";
+        return nullptr;
+    }
+    KyDbObjectId id;
+    {
+        KyDbObjectPointer<KyDbSymbolTable> layers(document->database()->layerTableId(),
+                                                  KyDb::kForRead);
+        if (layers.openStatus() != Kyro::eOk ||
+            layers->getAt(KyString::fromUtf8(name), id) != Kyro::eOk) {
+            error = "no layer " + KyAppValue::text(name).format();
+            return nullptr;
+        }
+    }
+    return createDataItem(KyString::fromUtf8(name), KyRxValue(id), nullptr, nullptr, true);
+}
+
+bool KyAppScript::layerStatement(const KyAppStatement& statement) {
+    std::string error;
+    KyDiDynamicObject* item = layerItem(statement.words[1].text, error);
+    if (item == nullptr) {
+        return fail(error);
+    }
+    const std::string& name = statement.words[2].text;
+    const auto* property = kyrxCast<KyRxProperty>(KyDiFindMember(item, KyString::fromUtf8(name)));
+    if (property == nullptr) {
+        return fail("a layer has no property " + name);
+    }
+    if (statement.name == "get") {
+        KyRxValue value;
+        if (const Kyro::ErrorStatus status = property->getValue(item, value); status != Kyro::eOk) {
+            return fail(name + " can't be read: " + statusText(status));
+        }
+        m_out << KyAppValue::text(KyDiGetItemName(item).utf8()).format() << ' ' << name << ' '
+              << KyAppPropertyValue::format(value) << '\n';
+        return true;
+    }
+    const KyAppWord& word = statement.words[3];
+    const std::optional<KyAppValue> typed = KyAppValue::parse(word.text, word.quoted, error);
+    KyRxValue value;
+    if (!typed.has_value() ||
+        !KyAppPropertyValue::toValue(*typed, property->type(), currentDocument()->database(), value,
+                                     error)) {
+        return fail(error);
+    }
+    if (const Kyro::ErrorStatus status = property->setValue(item, value); status != Kyro::eOk) {
+        return fail(name + " was not set: " + statusText(status));
+    }
+    return true;
+}
+
 bool KyAppScript::collectionStatement(const KyAppStatement& statement) {
+    // Of the collections, the program reaches the layers, each through the
+    // layer's item.
+    if ((statement.name == "get" || statement.name == "set") &&
+        statement.words[0].text == "LAYER") {
+        return layerStatement(statement);
+    }
     return fail("unknown collection " + statement.words[0].text);
 }
 

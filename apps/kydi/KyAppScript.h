@@ -12,8 +12,10 @@
 //   echo TEXT          prints TEXT
 //   select HANDLE...   sets the selection of the current document
 //   log                the host's command line since the last log, each line behind "| "
-//   watch host | sysvar NAME | collection NAME | context NAME
+//   watch host | sysvar NAME | object HANDLE | collection NAME | context NAME
 //   sysvar NAME [VALUE]
+//   language CODE      the platform's texts: "base" or a language of its texts ("de")
+//   members HANDLE     the members of a drawing object as a palette sees them
 //   items COLLECTION, current COLLECTION [ITEM], get COLLECTION ITEM PROPERTY,
 //   set COLLECTION ITEM PROPERTY VALUE, context NAME [PROPERTY [VALUE]]
 #pragma once
@@ -28,6 +30,9 @@
 #include "KyAppStatement.h"
 
 class KyAppHostEventPrinter;
+class KyAppObjectWatch;
+class KyDbObjectId;
+class KyDiDynamicObject;
 class KyAppSession;
 class KyAppSysVarWatch;
 class KyRefDocument;
@@ -60,6 +65,13 @@ public:
 private:
     bool fail(const std::string& reason);
     KyRefDocument* currentDocument();
+    // The object of a handle word ("#1F" or "1F") in the current document,
+    // not erased; false with `error` otherwise.
+    bool objectOf(const KyAppWord& word, KyDbObjectId& id, std::string& error);
+    // The item of the layer `name` of the current document; null with
+    // `error` when there is none.
+    KyDiDynamicObject* layerItem(const std::string& name, std::string& error);
+    bool layerStatement(const KyAppStatement& statement);
 
     bool open(const KyAppStatement& statement);
     bool newDocument(const KyAppStatement& statement);
@@ -75,6 +87,8 @@ private:
     bool log(const KyAppStatement& statement);
     bool watch(const KyAppStatement& statement);
     bool sysvar(const KyAppStatement& statement);
+    bool language(const KyAppStatement& statement);
+    bool members(const KyAppStatement& statement);
     bool collectionStatement(const KyAppStatement& statement);
     bool context(const KyAppStatement& statement);
 
@@ -82,5 +96,6 @@ private:
     std::ostream& m_out;
     std::unique_ptr<KyAppHostEventPrinter> m_hostPrinter;
     std::vector<std::unique_ptr<KyAppSysVarWatch>> m_sysVarWatches;
+    std::vector<std::unique_ptr<KyAppObjectWatch>> m_objectWatches;
     bool m_anyFailed = false;
 };

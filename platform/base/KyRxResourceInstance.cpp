@@ -296,6 +296,14 @@ const wchar_t* KyRxResourceInstance::text(unsigned id) const {
     return m_module->find(kBaseLanguage, id);
 }
 
+bool KyRxResourceInstance::hasLanguage(const wchar_t* language) const {
+    const std::wstring tag = language != nullptr ? lowered(trimmed(language)) : std::wstring();
+    if (tag.empty() || tag == kBaseLanguage) {
+        return true;
+    }
+    return m_module != nullptr && m_module->sections.contains(tag);
+}
+
 void KyRxResourceInstance::setLanguage(const wchar_t* language) {
     ResourceState& shared = state();
     const std::lock_guard<std::mutex> lock(shared.mutex);

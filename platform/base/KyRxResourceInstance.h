@@ -27,6 +27,10 @@ public:
     // null when the module has no such text.
     const wchar_t* text(unsigned id) const;
 
+    // True when the module has a section for `language` ("de"); the base
+    // language ("" or "base") always counts.
+    bool hasLanguage(const wchar_t* language) const;
+
     // The current language of the process: "" (or "base") for the base
     // language, otherwise a tag such as "de". Affects every later lookup.
     static void setLanguage(const wchar_t* language);

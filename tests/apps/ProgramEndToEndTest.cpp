@@ -111,6 +111,18 @@ TEST_F(Program, ALayerCommandAsTheLayerSendsItChangesTheLayerWhenTheHostIsIdle) 
     EXPECT_EQ(wallsColor("undone.kyd"), 5) << "U puts the sample's colour back";
 }
 
+TEST_F(Program, ALayersColourSetThroughItsItemLeavesAsTheTrueColourCommandAndReadsBack) {
+    expectScript("layer_item", 0);
+}
+
+TEST_F(Program, MembersOfALayerShowTheirLocalNamesInEitherLanguage) {
+    expectScript("members", 0);
+}
+
+TEST_F(Program, AWatchedObjectHearsChangesSwitchesAndItsErasureAtTheRefresh) {
+    expectScript("watch_object", 1);
+}
+
 TEST_F(Program, ACurrentLayerSetByCommandIsReportedOnceAfterTheHostRanIt) {
     expectScript("current_layer", 0);
 }

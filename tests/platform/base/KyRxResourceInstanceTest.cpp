@@ -54,6 +54,10 @@ TEST_F(BaseResource, SwitchingTheLanguageFallsBackToTheBaseLanguage) {
     EXPECT_STREQ(L"Farbe", resources.text(2));
 
     // A language the module lacks reads the base texts.
+    EXPECT_TRUE(resources.hasLanguage(L"DE"));
+    EXPECT_TRUE(resources.hasLanguage(L"base"));
+    EXPECT_TRUE(resources.hasLanguage(L""));
+    EXPECT_FALSE(resources.hasLanguage(L"fr"));
     KyRxResourceInstance::setLanguage(L"fr");
     EXPECT_STREQ(L"Layer", resources.text(1));
 
