@@ -3,28 +3,17 @@
 // filter item). An object that is a KyDiProxy gives the values itself.
 #pragma once
 
-#include "reflection/IKyDiSourceProperty.h"
-#include "reflection/WrapperSource.h"
-#include "rx/KyRxProperty.h"
+#include "reflection/KyDiWrapper.h"
 
-class KyDiCollectionProperty : public KyRxCollectionProperty, public IKyDiSourceProperty {
+class KyDiCollectionProperty : public KyDiWrapper<KyRxCollectionProperty> {
 public:
     static KyRxClass* desc();
     KyRxClass* isA() const override;
 
     KyDiCollectionProperty(const KyRxCollectionProperty* source, const KyRxObject* owner);
     KyDiCollectionProperty(const wchar_t* name, const KyRxValueType& type);
-    ~KyDiCollectionProperty() override;
-
-    const KyRxMember* sourceProperty() const override { return m_source.source(); }
 
 protected:
-    KyString subLocalName() const override;
-    Kyro::ErrorStatus subChildren(KyRxMemberArray& children) const override;
-    Kyro::ErrorStatus subChildrenEx(const KyRxMemberArray*& children) const override;
     KyRxValueIterator* subNewValueIterator(const KyRxObject* object) const override;
     Kyro::ErrorStatus subTryGetCount(const KyRxObject* object, int& count) const override;
-
-private:
-    WrapperSource m_source;
 };

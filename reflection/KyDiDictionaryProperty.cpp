@@ -6,31 +6,11 @@ KYDI_DEFINE_CLASS_MEMBERS(KyDiDictionaryProperty, kDictionaryProperty)
 
 KyDiDictionaryProperty::KyDiDictionaryProperty(const KyRxDictionaryProperty* source,
                                                const KyRxObject* owner)
-    : KyRxDictionaryProperty(source->name(), source->type(), owner),
-      m_source(source),
-      m_collection(new KyDiCollectionProperty(source, nullptr)) {
-    m_source.shareAttributes(*this);
-}
+    : KyDiWrapper(source->name(), source->type(), owner, source),
+      m_collection(new KyDiCollectionProperty(source, nullptr)) {}
 
 KyDiDictionaryProperty::~KyDiDictionaryProperty() {
-    WrapperSource::releaseAttributes(*this);
     KyRxMember::deleteMember(m_collection);
-}
-
-bool KyDiDictionaryProperty::subIsReadOnly() const {
-    return m_source.isReadOnly();
-}
-
-KyString KyDiDictionaryProperty::subLocalName() const {
-    return m_source.localName();
-}
-
-Kyro::ErrorStatus KyDiDictionaryProperty::subChildren(KyRxMemberArray& /*children*/) const {
-    return Kyro::eInvalidInput;
-}
-
-Kyro::ErrorStatus KyDiDictionaryProperty::subChildrenEx(const KyRxMemberArray*& children) const {
-    return m_source.children(children);
 }
 
 KyRxValueIterator* KyDiDictionaryProperty::subNewValueIterator(const KyRxObject* object) const {
@@ -42,7 +22,8 @@ Kyro::ErrorStatus KyDiDictionaryProperty::subTryGetCount(const KyRxObject* objec
     return m_collection->tryGetCount(object, count);
 }
 
-Kyro::ErrorStatus KyDiDictionaryProperty::subGetValue(const KyRxObject* object, const wchar_t* key,
+Kyro::ErrorStatus KyDiDictionaryProperty::subGetValue(const KyRxObject* object,
+                                                      const wchar_t* key,
                                                       KyRxValue& value) const {
     return m_source.get(this, object, value, -1, key);
 }

@@ -5,7 +5,7 @@
 
 #include "reflection/KyDiCollectionProperty.h"
 
-class KyDiDictionaryProperty : public KyRxDictionaryProperty, public IKyDiSourceProperty {
+class KyDiDictionaryProperty : public KyDiWrapper<KyRxDictionaryProperty> {
 public:
     static KyRxClass* desc();
     KyRxClass* isA() const override;
@@ -13,14 +13,9 @@ public:
     KyDiDictionaryProperty(const KyRxDictionaryProperty* source, const KyRxObject* owner);
     ~KyDiDictionaryProperty() override;
 
-    const KyRxMember* sourceProperty() const override { return m_source.source(); }
     KyDiCollectionProperty* collectionSide() const { return m_collection; }
 
 protected:
-    KyString subLocalName() const override;
-    bool subIsReadOnly() const override;
-    Kyro::ErrorStatus subChildren(KyRxMemberArray& children) const override;
-    Kyro::ErrorStatus subChildrenEx(const KyRxMemberArray*& children) const override;
     KyRxValueIterator* subNewValueIterator(const KyRxObject* object) const override;
     Kyro::ErrorStatus subTryGetCount(const KyRxObject* object, int& count) const override;
     Kyro::ErrorStatus subGetValue(const KyRxObject* object, const wchar_t* key,
@@ -29,6 +24,5 @@ protected:
                                   const KyRxValue& value) const override;
 
 private:
-    WrapperSource m_source;
     KyDiCollectionProperty* m_collection;
 };

@@ -6,7 +6,7 @@
 
 #include "reflection/KyDiCollectionProperty.h"
 
-class KyDiIndexedProperty : public KyRxIndexedProperty, public IKyDiSourceProperty {
+class KyDiIndexedProperty : public KyDiWrapper<KyRxIndexedProperty> {
 public:
     static KyRxClass* desc();
     KyRxClass* isA() const override;
@@ -14,15 +14,10 @@ public:
     KyDiIndexedProperty(const KyRxIndexedProperty* source, const KyRxObject* owner);
     ~KyDiIndexedProperty() override;
 
-    const KyRxMember* sourceProperty() const override { return m_source.source(); }
     // The embedded collection side, which the wrapping step registers too.
     KyDiCollectionProperty* collectionSide() const { return m_collection; }
 
 protected:
-    KyString subLocalName() const override;
-    bool subIsReadOnly() const override;
-    Kyro::ErrorStatus subChildren(KyRxMemberArray& children) const override;
-    Kyro::ErrorStatus subChildrenEx(const KyRxMemberArray*& children) const override;
     KyRxValueIterator* subNewValueIterator(const KyRxObject* object) const override;
     Kyro::ErrorStatus subTryGetCount(const KyRxObject* object, int& count) const override;
     Kyro::ErrorStatus subGetValue(const KyRxObject* object, int index,
@@ -34,6 +29,5 @@ protected:
     Kyro::ErrorStatus subRemoveValue(KyRxObject* object, int index) const override;
 
 private:
-    WrapperSource m_source;
     KyDiCollectionProperty* m_collection;
 };

@@ -5,32 +5,10 @@
 KYDI_DEFINE_CLASS_MEMBERS(KyDiProperty, kProperty)
 
 KyDiProperty::KyDiProperty(const KyRxProperty* source, const KyRxObject* owner)
-    : KyRxProperty(source->name(), source->type(), owner), m_source(source) {
-    m_source.shareAttributes(*this);
-}
+    : KyDiWrapper(source->name(), source->type(), owner, source) {}
 
 KyDiProperty::KyDiProperty(const wchar_t* name, const KyRxValueType& type)
-    : KyRxProperty(name, type, nullptr), m_source(nullptr) {}
-
-KyDiProperty::~KyDiProperty() {
-    WrapperSource::releaseAttributes(*this);
-}
-
-bool KyDiProperty::subIsReadOnly() const {
-    return m_source.isReadOnly();
-}
-
-KyString KyDiProperty::subLocalName() const {
-    return m_source.localName();
-}
-
-Kyro::ErrorStatus KyDiProperty::subChildren(KyRxMemberArray& /*children*/) const {
-    return Kyro::eInvalidInput;
-}
-
-Kyro::ErrorStatus KyDiProperty::subChildrenEx(const KyRxMemberArray*& children) const {
-    return m_source.children(children);
-}
+    : KyDiWrapper(name, type, nullptr, nullptr) {}
 
 Kyro::ErrorStatus KyDiProperty::subGetValue(const KyRxObject* object, KyRxValue& value) const {
     return m_source.get(this, object, value, -1, nullptr);

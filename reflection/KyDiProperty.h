@@ -8,11 +8,9 @@
 // "Name" of an item), which only a proxy answers.
 #pragma once
 
-#include "reflection/IKyDiSourceProperty.h"
-#include "reflection/WrapperSource.h"
-#include "rx/KyRxProperty.h"
+#include "reflection/KyDiWrapper.h"
 
-class KyDiProperty : public KyRxProperty, public IKyDiSourceProperty {
+class KyDiProperty : public KyDiWrapper<KyRxProperty> {
 public:
     static KyRxClass* desc();
     KyRxClass* isA() const override;
@@ -21,18 +19,8 @@ public:
     KyDiProperty(const KyRxProperty* source, const KyRxObject* owner);
     // A property of the layer's own.
     KyDiProperty(const wchar_t* name, const KyRxValueType& type);
-    ~KyDiProperty() override;
-
-    const KyRxMember* sourceProperty() const override { return m_source.source(); }
 
 protected:
-    KyString subLocalName() const override;
-    bool subIsReadOnly() const override;
-    Kyro::ErrorStatus subChildren(KyRxMemberArray& children) const override;
-    Kyro::ErrorStatus subChildrenEx(const KyRxMemberArray*& children) const override;
     Kyro::ErrorStatus subGetValue(const KyRxObject* object, KyRxValue& value) const override;
     Kyro::ErrorStatus subSetValue(KyRxObject* object, const KyRxValue& value) const override;
-
-private:
-    WrapperSource m_source;
 };
