@@ -1,5 +1,7 @@
 #include "manager/ObjectReactorHub.h"
 
+#include <algorithm>
+
 #include "db/KyDbObject.h"
 #include "db/KyDbOpenObject.h"
 #include "kydi/KyDiManager.h"
@@ -113,14 +115,14 @@ void ObjectReactorHub::pass() {
     const KyDiDocument document = KyDiHostAccess::currentDocument();
     const bool documentChanged = document != g_lastDocument;
     g_lastDocument = document;
-    // A client may take back its own watch or another one while it is told:
-    // the walk goes over a copy and skips what is no longer watched.
-    const KyArray<LooseItem*> snapshot = watches();
-    for (int i = snapshot.length() - 1; i >= 0; --i) {
-        LooseItem* watch = snapshot[i];
-        if (!watches().contains(watch)) {
-            continue;
-        }
+    // The live list is walked from its end. A client may take back its own
+    // watch or another one while it is told: the walk then goes on below the
+    // place it reached, within the list as it stands. A watch that slides
+    // down into that range is looked at again, which tells nothing twice: its
+    // marks are cleared and its document is told only when it differs.
+    KyArray<LooseItem*>& all = watches();
+    for (int i = all.length() - 1; i >= 0; i = std::min(i - 1, all.length() - 1)) {
+        LooseItem* watch = all[i];
         if (watch->flags != 0 || documentChanged) {
             passOver(watch, documentChanged);
         }
