@@ -7,8 +7,8 @@
 #include <memory>
 #include <vector>
 
-#include "KyRefHost.h"
 #include "KyRefDocument.h"
+#include "KyRefHost.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbLayerTable.h"

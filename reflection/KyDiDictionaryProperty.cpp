@@ -22,8 +22,7 @@ Kyro::ErrorStatus KyDiDictionaryProperty::subTryGetCount(const KyRxObject* objec
     return m_collection->tryGetCount(object, count);
 }
 
-Kyro::ErrorStatus KyDiDictionaryProperty::subGetValue(const KyRxObject* object,
-                                                      const wchar_t* key,
+Kyro::ErrorStatus KyDiDictionaryProperty::subGetValue(const KyRxObject* object, const wchar_t* key,
                                                       KyRxValue& value) const {
     return m_source.get(this, object, value, -1, key);
 }

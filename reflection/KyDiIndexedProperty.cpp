@@ -4,8 +4,7 @@
 
 KYDI_DEFINE_CLASS_MEMBERS(KyDiIndexedProperty, kIndexedProperty)
 
-KyDiIndexedProperty::KyDiIndexedProperty(const KyRxIndexedProperty* source,
-                                         const KyRxObject* owner)
+KyDiIndexedProperty::KyDiIndexedProperty(const KyRxIndexedProperty* source, const KyRxObject* owner)
     : KyDiWrapper(source->name(), source->type(), owner, source),
       m_collection(new KyDiCollectionProperty(source, nullptr)) {}
 
@@ -17,8 +16,7 @@ KyRxValueIterator* KyDiIndexedProperty::subNewValueIterator(const KyRxObject* ob
     return m_collection->newValueIterator(object);
 }
 
-Kyro::ErrorStatus KyDiIndexedProperty::subTryGetCount(const KyRxObject* object,
-                                                      int& count) const {
+Kyro::ErrorStatus KyDiIndexedProperty::subTryGetCount(const KyRxObject* object, int& count) const {
     return m_collection->tryGetCount(object, count);
 }
 
@@ -37,7 +35,6 @@ Kyro::ErrorStatus KyDiIndexedProperty::subInsertValue(KyRxObject* /*object*/, in
     return Kyro::eNotSupported;
 }
 
-Kyro::ErrorStatus KyDiIndexedProperty::subRemoveValue(KyRxObject* /*object*/,
-                                                      int /*index*/) const {
+Kyro::ErrorStatus KyDiIndexedProperty::subRemoveValue(KyRxObject* /*object*/, int /*index*/) const {
     return Kyro::eNotSupported;
 }

@@ -78,8 +78,8 @@ protected:
     static KyRxValue expected(const KyRxObject* object, const KyRxMember* member,
                               const KyRxValue& hostValue) {
         KyRxValue value = hostValue;
-        const auto* formulas = kyrxCast<KyRxPropertyExpressionPE>(
-            object->queryX(KyRxPropertyExpressionPE::desc()));
+        const auto* formulas =
+            kyrxCast<KyRxPropertyExpressionPE>(object->queryX(KyRxPropertyExpressionPE::desc()));
         if (formulas != nullptr && formulas->isExpression(object, member)) {
             value = KyRxValue(KyDiExpression{hostValue, formulas->getExpression(object, member)});
         }
@@ -117,12 +117,11 @@ protected:
                 }
             }
             KyRxValue got;
-            const Kyro::ErrorStatus status =
-                kyrxCast<KyRxProperty>(wrapper)->getValue(item, got);
+            const Kyro::ErrorStatus status = kyrxCast<KyRxProperty>(wrapper)->getValue(item, got);
             EXPECT_EQ(status, hostStatus) << wrapper->name();
             if (status == Kyro::eOk && hostStatus == Kyro::eOk) {
-                EXPECT_EQ(got, want) << wrapper->name() << ": " << got.text().utf8() << " vs "
-                                     << want.text().utf8();
+                EXPECT_EQ(got, want)
+                    << wrapper->name() << ": " << got.text().utf8() << " vs " << want.text().utf8();
                 ++propertiesRead;
             }
         }
