@@ -19,8 +19,14 @@ ItemTable* LocalDataItemCache::currentTable() const {
 }
 
 ItemTable* LocalDataItemCache::tableOf(KyDbObjectId id) const {
-    const auto found = m_documents.find(KyDiHostAccess::documentOf(id.database()));
-    return found != m_documents.end() ? found->second : nullptr;
+    const KyDiDocument document = KyDiHostAccess::documentOf(id.database());
+    if (const auto found = m_documents.find(document); found != m_documents.end()) {
+        return found->second;
+    }
+    // A document that is going keeps its items in the table set aside, which
+    // goes with it.
+    const auto retired = m_retired.find(document);
+    return retired != m_retired.end() ? retired->second : nullptr;
 }
 
 KyDiDbItem* LocalDataItemCache::findItem(KyDbObjectId id) const {
@@ -38,6 +44,11 @@ bool LocalDataItemCache::addItem(KyDiDbItem* item) {
     }
     const KyDbObjectId id = item->objectId();
     const KyDiDocument document = KyDiHostAccess::documentOf(id.database());
+    if (const auto retired = m_retired.find(document); retired != m_retired.end()) {
+        // Its records are heard no more.
+        retired->second->items.emplace(id, item);
+        return true;
+    }
     ItemTable*& table = m_documents[document];
     if (table == nullptr) {
         table = new ItemTable();

@@ -16,7 +16,9 @@ bool LooseItem::inCurrentDocument() const {
 }
 
 void LooseItem::noteDocument() {
-    flags = inCurrentDocument() ? kInsideDocument : kOutsideDocument;
+    // What the hub is doing with the record stays; the marks go.
+    flags = (flags & (kInNotification | kRemovePending)) |
+            (inCurrentDocument() ? kInsideDocument : kOutsideDocument);
 }
 
 void LooseItem::detach() {

@@ -31,7 +31,8 @@ public:
         // the record afterwards.
         kRemovePending = 0x200,
         // The object was just unerased: the close that ends the undo is not a
-        // change of its own.
+        // change of its own. (An unerase and an edit in one open count as the
+        // unerase alone.)
         kUnerasing = 0x1000,
     };
 
@@ -51,8 +52,8 @@ public:
     bool active = true;
 
     bool inCurrentDocument() const;
-    // Sets the document bits (and nothing else) for where the object stands
-    // now: the next pass checks it.
+    // Sets the document bits for where the object stands now, so that the
+    // next pass checks it; the other marks go.
     void noteDocument();
     // Takes the record off its object, when the object can still be opened.
     void detach();

@@ -52,9 +52,12 @@ bool tellDocument(LooseItem* watch) {
     return survivedCall(watch);
 }
 
+// Tells the client what the marks of its watch say. The marks are taken at
+// the start: those the client's own calls leave (it changes or erases the
+// object while it is told) wait for the next pass.
 void passOver(LooseItem* watch, bool documentChanged) {
     const std::uint32_t marks = watch->flags;
-    watch->flags = marks | LooseItem::kInNotification;
+    watch->flags = LooseItem::kInNotification;
     if ((marks & LooseItem::kGone) != 0) {
         // The client is required to take the watch back here.
         watch->reactor->erased();
@@ -73,12 +76,15 @@ void passOver(LooseItem* watch, bool documentChanged) {
             return;
         }
     }
-    watch->flags = 0;
+    watch->flags &= ~LooseItem::kInNotification;
 }
 
 }  // namespace
 
 Kyro::ErrorStatus ObjectReactorHub::add(const KyDbObjectId& id, KyDiObjectReactor* reactor) {
+    if (reactor == nullptr) {
+        return Kyro::eInvalidInput;
+    }
     KyDbObject* object = nullptr;
     const Kyro::ErrorStatus status = kydbOpenObject(object, id, KyDb::kForRead);
     if (status != Kyro::eOk) {
@@ -123,7 +129,10 @@ void ObjectReactorHub::pass() {
     KyArray<LooseItem*>& all = watches();
     for (int i = all.length() - 1; i >= 0; i = std::min(i - 1, all.length() - 1)) {
         LooseItem* watch = all[i];
-        if (watch->flags != 0 || documentChanged) {
+        // A pass that a client forces while it is told leaves that watch to
+        // the pass that is telling it.
+        if ((watch->flags & LooseItem::kInNotification) == 0 &&
+            (watch->flags != 0 || documentChanged)) {
             passOver(watch, documentChanged);
         }
     }

@@ -11,7 +11,9 @@ KYDI_DEFINE_CLASS_MEMBERS(KyDiDbComplexItem, kDbComplexItem)
 KyDiDbComplexItem::KyDiDbComplexItem(KyDbObjectId objectId, const KyDbFullSubentPath& path)
     : KyDiDbItem(objectId), m_path(path) {}
 
-KyDiDbComplexItem::~KyDiDbComplexItem() = default;
+KyDiDbComplexItem::~KyDiDbComplexItem() {
+    tellDeleted();
+}
 
 KyRxMemberIterator* KyDiDbComplexItem::subNewItemMemberIterator() {
     return KyDiMemberIterator::over(

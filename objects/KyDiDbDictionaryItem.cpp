@@ -14,7 +14,9 @@ KYDI_DEFINE_CLASS_MEMBERS(KyDiDbDictionaryItem, kDbDictionaryItem)
 KyDiDbDictionaryItem::KyDiDbDictionaryItem(KyDbObjectId objectId, KyDbObjectId dictionaryId)
     : KyDiDbItem(objectId), m_dictionaryId(dictionaryId) {}
 
-KyDiDbDictionaryItem::~KyDiDbDictionaryItem() = default;
+KyDiDbDictionaryItem::~KyDiDbDictionaryItem() {
+    tellDeleted();
+}
 
 KyRxMemberIterator* KyDiDbDictionaryItem::subNewItemMemberIterator() {
     return KyDiMemberIterator::over({ItemMembers::dbDictionaryItemName()});

@@ -13,7 +13,9 @@ KYDI_DEFINE_CLASS_MEMBERS(KyDiDbItem, kDbItem)
 
 KyDiDbItem::KyDiDbItem(KyDbObjectId objectId) : m_objectId(objectId) {}
 
-KyDiDbItem::~KyDiDbItem() = default;
+KyDiDbItem::~KyDiDbItem() {
+    tellDeleted();
+}
 
 Kyro::ErrorStatus KyDiDbItem::subGetValueInto(KyRxValue& out) {
     out = KyRxValue(m_objectId);

@@ -10,7 +10,9 @@ KYDI_DEFINE_CLASS_MEMBERS(KyDiDbLayerItem, kDbLayerItem)
 
 KyDiDbLayerItem::KyDiDbLayerItem(KyDbObjectId objectId) : KyDiDbItem(objectId) {}
 
-KyDiDbLayerItem::~KyDiDbLayerItem() = default;
+KyDiDbLayerItem::~KyDiDbLayerItem() {
+    tellDeleted();
+}
 
 Kyro::ErrorStatus KyDiDbLayerItem::setValue(const KyRxPropertyBase* property,
                                             const KyRxValue& value, int index, const wchar_t* key) {

@@ -9,7 +9,9 @@ KYDI_DEFINE_CLASS_MEMBERS(KyDiDbNamedItem, kDbNamedItem)
 KyDiDbNamedItem::KyDiDbNamedItem(KyDbObjectId objectId, const KyString& name)
     : KyDiDbItem(objectId), m_name(name) {}
 
-KyDiDbNamedItem::~KyDiDbNamedItem() = default;
+KyDiDbNamedItem::~KyDiDbNamedItem() {
+    tellDeleted();
+}
 
 KyRxMemberIterator* KyDiDbNamedItem::subNewItemMemberIterator() {
     return KyDiMemberIterator::over({ItemMembers::dbNamedItemName()});

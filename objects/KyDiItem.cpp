@@ -6,9 +6,14 @@
 KYDI_DEFINE_CLASS_MEMBERS(KyDiItem, kItem)
 
 KyDiItem::~KyDiItem() {
-    // Told while the item is whole: the derived parts are gone, this one and
-    // the address are not.
-    KyDiManagerModule::notifyItemDeleted(this);
+    tellDeleted();
+}
+
+void KyDiItem::tellDeleted() {
+    if (!m_deletionTold) {
+        m_deletionTold = true;
+        KyDiManagerModule::notifyItemDeleted(this);
+    }
 }
 
 const KyRxValue* KyDiItem::value() const {

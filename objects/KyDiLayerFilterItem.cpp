@@ -12,7 +12,9 @@ KyDiLayerFilterItem::KyDiLayerFilterItem(const KyString& name, const KyDiLayerFi
                                          const KyArray<KyDbObjectId>& layers)
     : KyDiLayerFilterItemBase(name, flags), m_layers(layers) {}
 
-KyDiLayerFilterItem::~KyDiLayerFilterItem() = default;
+KyDiLayerFilterItem::~KyDiLayerFilterItem() {
+    tellDeleted();
+}
 
 void KyDiLayerFilterItem::subAddMembers(KyDiMemberArray& members) {
     members.append(ItemMembers::filterItemLayers());

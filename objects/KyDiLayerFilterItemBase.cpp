@@ -11,7 +11,9 @@ KyDiLayerFilterItemBase::KyDiLayerFilterItemBase(const KyString& name,
                                                  const KyDiLayerFilterFlags& flags)
     : m_nameValue(name), m_flags(flags) {}
 
-KyDiLayerFilterItemBase::~KyDiLayerFilterItemBase() = default;
+KyDiLayerFilterItemBase::~KyDiLayerFilterItemBase() {
+    tellDeleted();
+}
 
 KyString KyDiLayerFilterItemBase::name() const {
     const KyString* text = valueCast<KyString>(&m_nameValue);

@@ -21,6 +21,7 @@ KyDiLayerFilterTreeItem::KyDiLayerFilterTreeItem(const KyString& name,
       m_fingerprint(fingerprint) {}
 
 KyDiLayerFilterTreeItem::~KyDiLayerFilterTreeItem() {
+    tellDeleted();
     delete m_layers;
     m_layers = nullptr;
     delete m_subFilters;

@@ -10,7 +10,9 @@ KYDI_DEFINE_CLASS_MEMBERS(KyDiNamedItem, kNamedItem)
 KyDiNamedItem::KyDiNamedItem(const KyString& name, const KyRxValue& value)
     : m_name(name), m_value(value) {}
 
-KyDiNamedItem::~KyDiNamedItem() = default;
+KyDiNamedItem::~KyDiNamedItem() {
+    tellDeleted();
+}
 
 Kyro::ErrorStatus KyDiNamedItem::subGetValueInto(KyRxValue& out) {
     out = m_value;

@@ -45,8 +45,11 @@ struct CommandStart {
             name = KyDiGetItemName(item);
         }
     }
-    bool ready() const {
-        return database != nullptr && editor != nullptr && layers != nullptr && !name.isEmpty();
+    // A command reaches the working database only: a layer of a drawing in
+    // the background is left to the record's own write.
+    bool ready(const KyDiDbLayerItem* item) const {
+        return database != nullptr && editor != nullptr && layers != nullptr && !name.isEmpty() &&
+               item->objectId().database() == database;
     }
     bool isCurrentLayer(const KyDiDbLayerItem* item) const {
         return database->clayer() == item->objectId();
@@ -90,7 +93,7 @@ LayerCommands::Handler LayerCommands::handlerFor(const wchar_t* propertyName) {
 bool LayerCommands::setIsOff(KyDiDbLayerItem* item, const KyRxValue& value) {
     const CommandStart start(item);
     const bool* off = boolOf(value);
-    if (!start.ready() || off == nullptr) {
+    if (!start.ready(item) || off == nullptr) {
         return false;
     }
     // Turning the current layer off is the user's call: the host asks.
@@ -107,7 +110,7 @@ bool LayerCommands::setIsOff(KyDiDbLayerItem* item, const KyRxValue& value) {
 bool LayerCommands::setIsFrozen(KyDiDbLayerItem* item, const KyRxValue& value) {
     const CommandStart start(item);
     const bool* frozen = boolOf(value);
-    if (!start.ready() || frozen == nullptr) {
+    if (!start.ready(item) || frozen == nullptr) {
         return false;
     }
     if (start.isCurrentLayer(item)) {
@@ -120,7 +123,7 @@ bool LayerCommands::setIsFrozen(KyDiDbLayerItem* item, const KyRxValue& value) {
 bool LayerCommands::setIsLocked(KyDiDbLayerItem* item, const KyRxValue& value) {
     const CommandStart start(item);
     const bool* locked = boolOf(value);
-    if (!start.ready() || locked == nullptr) {
+    if (!start.ready(item) || locked == nullptr) {
         return false;
     }
     return sendOption(start, *locked ? L"_LOCK" : L"_UNLOCK");
@@ -129,7 +132,7 @@ bool LayerCommands::setIsLocked(KyDiDbLayerItem* item, const KyRxValue& value) {
 bool LayerCommands::setColor(KyDiDbLayerItem* item, const KyRxValue& value) {
     const CommandStart start(item);
     const KyCmColor* color = valueCast<KyCmColor>(&value);
-    if (!start.ready() || color == nullptr) {
+    if (!start.ready(item) || color == nullptr) {
         return false;
     }
     const wchar_t* name = start.name.kwszPtr();

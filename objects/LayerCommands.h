@@ -7,8 +7,9 @@
 // stands, without reading patterns in it.
 //
 // A handler answers false when it can't send (no current document, no
-// working database, no editor or layer service, no name, a value it does not
-// take): the caller then writes the record itself. It answers true when it
+// working database, a layer of another drawing than the working one, no
+// editor or layer service, no name, a value it does not take): the caller
+// then writes the record itself. It answers true when it
 // sent the command, or settled the write without one (the user kept the
 // current layer on, or the current layer can't be frozen).
 #pragma once

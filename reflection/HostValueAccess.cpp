@@ -1,5 +1,7 @@
 #include "reflection/HostValueAccess.h"
 
+#include <climits>
+
 #include "kydi/KyDiExpression.h"
 #include "rx/KyRxBoxedValue.h"
 #include "rx/KyRxProperty.h"
@@ -24,7 +26,10 @@ bool plainValueFor(const KyRxMember* member, const KyRxValue& inner, KyRxValue& 
         return true;
     }
     if (type == KyRxValueType::Desc<int>::value()) {
-        if (const double* number = valueCast<double>(&inner)) {
+        const double* number = valueCast<double>(&inner);
+        // A number beyond the range of an int has no truncation.
+        if (number != nullptr && *number > static_cast<double>(INT_MIN) - 1.0 &&
+            *number < static_cast<double>(INT_MAX) + 1.0) {
             out = KyRxValue(static_cast<int>(*number));
             return true;
         }

@@ -40,4 +40,12 @@ protected:
     virtual const KyRxValue* subValue() const;
     virtual KyRxValue* subValue();
     virtual KyRxMemberIterator* subNewItemMemberIterator();
+
+    // Tells every KyDiDataItemReactor that the item goes, once. Every item
+    // class calls it first in its destructor, so the reactors are told while
+    // the item is whole: its class, its value and its fields are all there.
+    void tellDeleted();
+
+private:
+    bool m_deletionTold = false;
 };

@@ -48,11 +48,14 @@ TEST_F(Items, AColourOrATransparencyHasOneLastingItemAndOtherValuesANewOneEachTi
     const std::unique_ptr<KyDiDynamicObject> two(createDataItem(L"x", KyRxValue(2.0)));
     EXPECT_NE(one.get(), two.get());
 
-    // Giving items up: the cache keeps the colour, the double goes.
+    // Giving items up: the cache keeps the colour and the transparency, the
+    // double goes.
     DeletionSpy spy;
     deleteItem(red);
+    deleteItem(glass);
     deleteItem(createDataItem(L"y", KyRxValue(3.0)));
     EXPECT_EQ(spy.count(red), 0);
+    EXPECT_EQ(spy.count(glass), 0);
     EXPECT_EQ(spy.deleted.size(), 1U);
 }
 
@@ -158,19 +161,23 @@ TEST_F(Items, AnItemsDestructionIsToldToEveryReactorOnceWhileTheItemIsWhole) {
     DeletionSpy first;
     DeletionSpy second;
     auto* item = createDataItem(L"Goes", KyRxValue(1));
-    struct NameReader : KyDiDataItemReactor {
+    // A reactor may still tell the item's class and read its value.
+    struct Reader : KyDiDataItemReactor {
         void itemDeleted(KyDiItem* item) override {
-            // The item's own part is still there to be told apart.
-            kinds.push_back(item->isKindOf(KyDiItem::desc()));
+            classes.push_back(item->isA());
+            const KyRxValue* value = item->value();
+            values.push_back(value != nullptr ? value->text().utf8() : "none");
         }
-        std::vector<bool> kinds;
+        std::vector<const KyRxClass*> classes;
+        std::vector<std::string> values;
     } reader;
     KyDiManager::addReactor(&reader);
     delete item;
     KyDiManager::removeReactor(&reader);
     EXPECT_EQ(first.count(item), 1);
     EXPECT_EQ(second.count(item), 1);
-    EXPECT_EQ(reader.kinds, (std::vector<bool>{true}));
+    EXPECT_EQ(reader.classes, (std::vector<const KyRxClass*>{KyDiNamedItem::desc()}));
+    EXPECT_EQ(reader.values, (std::vector<std::string>{"1"}));
 }
 
 // Records what an observable object tells its reactors.
@@ -212,6 +219,42 @@ TEST_F(Items, AnObservableObjectTellsItsReactorsOnACopyOfTheList) {
     object.tell(L"Color");
     // One of the two entries of "a" is gone; the list is told from the last.
     EXPECT_EQ(lines, (std::vector<std::wstring>{L"a Color", L"b Color"}));
+}
+
+// Takes a reactor (itself, when no other is named) off the object it is
+// told by.
+class Remover : public KyDiDynamicObjectReactor {
+public:
+    Remover(std::wstring name, Observed& object, std::vector<std::wstring>& lines,
+            KyDiDynamicObjectReactor* victim = nullptr)
+        : m_name(std::move(name)), m_object(object), m_lines(lines), m_victim(victim) {}
+    void changed(KyDiDynamicObject*, const wchar_t*, void*) override {
+        m_lines.push_back(m_name);
+        m_object.removeReactor(m_victim != nullptr ? m_victim : this);
+    }
+
+private:
+    std::wstring m_name;
+    Observed& m_object;
+    std::vector<std::wstring>& m_lines;
+    KyDiDynamicObjectReactor* m_victim;
+};
+
+TEST_F(Items, AReactorMayTakeItselfOrAnotherOffWhileItIsTold) {
+    std::vector<std::wstring> lines;
+    Observed object;
+    ChangeLog other(lines, L"other");
+    Remover self(L"self", object, lines);
+    Remover remover(L"remover", object, lines, &other);
+    object.addReactor(&other);
+    object.addReactor(&self);
+    object.addReactor(&remover);
+    // Told from the last, on the list as it stood: "other" is still told.
+    object.tell(L"Layer");
+    EXPECT_EQ(lines, (std::vector<std::wstring>{L"remover", L"self", L"other Layer"}));
+    lines.clear();
+    object.tell(L"Layer");
+    EXPECT_EQ(lines, (std::vector<std::wstring>{L"remover"}));
 }
 
 TEST_F(Items, AValueOfAnObjectComparesEqualOnlyForTheSamePointerAndPrintsItsValue) {

@@ -71,6 +71,24 @@ TEST_F(LayerItems, AColourByIndexTrueColourOrBookColourLeavesAsItsCommandAndCome
     EXPECT_EQ(sentTexts(), (Texts{L"'_.-LAYER\n_COLOR\n_COLORBOOK\nRAL\n3020\n=Walls\n\n"}));
 }
 
+TEST_F(LayerItems, ANamedColourWithoutABookLeavesByItsName) {
+    KyCmColor signal = trueColor(200, 30, 30);
+    signal.setNames(L"Signal");
+    KyCmColorBook::addColor(signal);
+    ASSERT_EQ(write(itemOf(walls), L"Color", KyRxValue(signal)), Kyro::eOk);
+    EXPECT_EQ(sentTexts(), (Texts{L"'_.-LAYER\n_COLOR\nSignal\n=Walls\n\n"}));
+    host.idle();
+    EXPECT_EQ(colorOf(walls), signal);
+}
+
+TEST_F(LayerItems, ALayerOfADrawingInTheBackgroundIsWrittenDirectly) {
+    KyDiDynamicObject* item = itemOf(walls);
+    host.documents().newDocument();
+    ASSERT_EQ(write(item, L"IsLocked", KyRxValue(true)), Kyro::eOk);
+    EXPECT_EQ(sentTexts(), Texts{}) << "the command would reach the drawing in front";
+    EXPECT_TRUE(flagOf(walls, &KyDbLayerTableRecord::isLocked));
+}
+
 TEST_F(LayerItems, TheStatesLeaveAsTheirCommands) {
     KyDiDynamicObject* item = itemOf(walls);
     EXPECT_EQ(write(item, L"IsOff", KyRxValue(true)), Kyro::eOk);

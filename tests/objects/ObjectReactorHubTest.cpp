@@ -191,4 +191,26 @@ TEST_F(Hub, TakingTheWatchBackInActiveChangedEndsItAfterTheCall) {
     EXPECT_EQ(pass(), Lines{});
 }
 
+TEST_F(Hub, WhatAClientDoesWhileItIsToldIsToldAtTheNextPass) {
+    const KyDbObjectId line = addLine();
+    WatchSpy spy(L"line", lines);
+    EXPECT_EQ(KyDiManager::addObjectReactor(line, nullptr), Kyro::eInvalidInput);
+    spy.watch(line);
+    int calls = 0;
+    spy.onCall = [&] {
+        // A forced pass from inside a call tells this watch nothing more.
+        KyDiManager::refresh();
+        if (++calls == 1) {
+            move(line, 9);
+        } else if (calls == 2) {
+            erase(line);
+        }
+    };
+    move(line, 1);
+    EXPECT_EQ(pass(), (Lines{L"line modified"}));
+    EXPECT_EQ(pass(), (Lines{L"line modified"})) << "the change made while told";
+    EXPECT_EQ(pass(), (Lines{L"line erased"}));
+    EXPECT_EQ(pass(), Lines{});
+}
+
 }  // namespace
