@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "db/KyAxDocLock.h"
+#include "db/KyDbLine.h"
 #include "db/KyDbObjectPointer.h"
 #include "kydi/KyDiManagerReactor.h"
 #include "objects/ItemFixture.h"
@@ -38,16 +39,28 @@ protected:
     }
 };
 
-TEST_F(ItemCache, ARecordKeepsItsItemAcrossADocumentSwitchAndBack) {
+TEST_F(ItemCache, AnIdReadThroughAWrapperIsTheSameItemAcrossADocumentSwitchAndBack) {
     const KyDbObjectId walls = addLayer(L"Walls");
-    KyDiDynamicObject* item = itemOf(walls);
-    KyRefDocument* first = host.documents().current();
+    const KyDbObjectId line =
+        content().addEntity<KyDbLine>([walls](KyDbLine& entity) { entity.setLayer(walls); });
+    KyDiDynamicObject* lineItem = itemOf(line);
+    const KyRxProperty* layer = property(lineItem, L"LayerId");
+    KyRxValue first;
+    KyRxValue again;
+    ASSERT_EQ(layer->getValue(lineItem, first), Kyro::eOk);
+    ASSERT_EQ(layer->getValue(lineItem, again), Kyro::eOk);
+    KyDiDynamicObject* item = itemIn(first);
+    ASSERT_NE(item, nullptr);
+    EXPECT_EQ(itemIn(again), item);
+    KyRefDocument* firstDocument = host.documents().current();
     host.documents().newDocument();
     KyDiManager::refresh();
-    EXPECT_EQ(itemOf(walls), item) << "a record of a document in the background";
-    host.documents().makeCurrent(first);
+    ASSERT_EQ(layer->getValue(lineItem, again), Kyro::eOk);
+    EXPECT_EQ(itemIn(again), item) << "a record of a document in the background";
+    host.documents().makeCurrent(firstDocument);
     KyDiManager::refresh();
-    EXPECT_EQ(itemOf(walls), item);
+    ASSERT_EQ(layer->getValue(lineItem, again), Kyro::eOk);
+    EXPECT_EQ(itemIn(again), item);
 }
 
 TEST_F(ItemCache, AnErasedItemLivesThroughThePassThatReportsItAndGoesAtItsEnd) {
