@@ -3,8 +3,13 @@
 #include "objects/DataItemOwnership.h"
 
 KyDiImpCollection::~KyDiImpCollection() {
-    const KyDiItemArray doomed = std::move(items);
-    items.removeAll();
+    clearItems();
+}
+
+void KyDiImpCollection::clearItems() {
+    // Taken out first: a reactor told of a deletion may look at the list.
+    const KyDiItemArray doomed = items;
+    items.setLogicalLength(0);
     for (int i = 0; i < doomed.length(); ++i) {
         DataItemOwnership::disposeDataItem(doomed[i]);
     }

@@ -4,9 +4,13 @@
 #include <cwchar>
 #include <memory>
 
+#include "collections/KyDiImpCollectionBase.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbSubEntityProvider.h"
 #include "kydi/KyDiDbComplexItem.h"
+#include "kydi/KyDiObservableCollection.h"
+#include "manager/KnownCollectionRegistry.h"
+#include "manager/KyDiManagerState.h"
 #include "reflection/PropertyWrapping.h"
 #include "rx/KyRxMemberQueryEngine.h"
 #include "rx/KyRxProperty.h"
@@ -80,4 +84,39 @@ KyRxMember* KyDiFindMember(const KyRxObject* object, const wchar_t* name) {
         }
     }
     return nullptr;
+}
+
+namespace {
+
+KyDiImpCollectionBase* knownBody(const wchar_t* name) {
+    KyDiObservableCollection* collection = KnownCollectionRegistry::getKnownCollection(name);
+    return collection != nullptr ? static_cast<KyDiImpCollectionBase*>(collection->imp()) : nullptr;
+}
+
+}  // namespace
+
+bool KyDiNotifyCollectionReset(const wchar_t* name) {
+    KyDiImpCollectionBase* body = knownBody(name);
+    if (body == nullptr) {
+        return false;
+    }
+    body->requestReset();
+    return true;
+}
+
+bool KyDiNotifyCollectionModified(const wchar_t* name) {
+    KyDiImpCollectionBase* body = knownBody(name);
+    if (body == nullptr) {
+        return false;
+    }
+    body->requestRefill();
+    return true;
+}
+
+void KyDiNotifyRecentBlockCollectionReset() {
+    // Without a collection of recent blocks (none made, or none can be) there
+    // is nothing to reset.
+    if (KyDiImpCollectionBase* body = knownBody(L"RECENTBLOCK")) {
+        body->requestReset();
+    }
 }

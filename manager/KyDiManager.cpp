@@ -7,6 +7,7 @@
 #include "kydi/KyDiHost.h"
 #include "kydi/KyDiManagerReactor.h"
 #include "kydi/KyDiSysVar.h"
+#include "manager/KnownCollectionRegistry.h"
 #include "manager/KyDiManagerModule.h"
 #include "manager/KyDiManagerState.h"
 #include "manager/KyDiReflectedClasses.h"
@@ -17,7 +18,6 @@
 #include "manager/RefreshPass.h"
 #include "manager/host/DataItemHostReactor.h"
 #include "manager/host/IKyDiCustomContextHost.h"
-#include "manager/host/IKyDiSymbolTableRegisterHost.h"
 #include "objects/ItemMembers.h"
 #include "pal/KyPal.h"
 #include "reflection/KyDiExpressionProperties.h"
@@ -67,10 +67,8 @@ void KyDiManager::initialize(KyDiHost* host) {
     }
     // Here come the layer's context factories: "DRAWING", "SELECTION",
     // "VIEWPORT", "RENDER".
-    if (IKyDiSymbolTableRegisterHost* symbolTables = IKyDiSymbolTableRegisterHost::instance()) {
-        symbolTables->registerDataItemFactories();
-    }
-    // Here come the known-collection rows with their paths.
+    // The symbol table module's rows, then the static ones, with their paths.
+    KnownCollectionRegistry::install();
     NameConverters::install();
     // Here comes the layer facet provider.
 
@@ -81,11 +79,15 @@ void KyDiManager::initialize(KyDiHost* host) {
 void KyDiManager::uninitialize() {
     KyDiManagerState& state = kydiManagerState();
 
-    // Here come, in this order: the known collections told to let go, the
-    // enumeration collections leaving their trackers, the effective
-    // properties dropping their tracker reactors, the built contexts and the
-    // context manager going, the effective properties going, and the
-    // collections going before the trackers they use.
+    // The known collections let go first, while all of them still stand;
+    // then the enumeration collections leave their trackers.
+    KnownCollectionRegistry::destroyAll();
+    KnownCollectionRegistry::releaseEnumTrackers();
+    // Here come, in this order: the effective properties dropping their
+    // tracker reactors, the built contexts and the context manager going,
+    // and the effective properties going.
+    // Collections go before the trackers they use.
+    KnownCollectionRegistry::deleteAll();
 
     if (state.hostReactor != nullptr) {
         if (state.host != nullptr) {
@@ -178,6 +180,23 @@ Kyro::ErrorStatus KyDiManager::addObjectReactor(const KyDbObjectId& id,
 Kyro::ErrorStatus KyDiManager::removeObjectReactor(const KyDbObjectId& id,
                                                    KyDiObjectReactor* reactor) {
     return ObjectReactorHub::remove(id, reactor);
+}
+
+KyDiObservableCollection* KyDiManager::getKnownCollection(const wchar_t* name) {
+    return KnownCollectionRegistry::getKnownCollection(name);
+}
+
+KyDiObservableCollection* KyDiManager::getKnownCollection(const wchar_t* name,
+                                                          KyDiCurrencyTracker* tracker) {
+    return KnownCollectionRegistry::getKnownCollection(name, tracker);
+}
+
+KyDiObservableCollection* KyDiManager::getKnownCollectionFromPath(const wchar_t* path) {
+    return KnownCollectionRegistry::getKnownCollectionFromPath(path);
+}
+
+KyDiCollection* KyDiManager::getCollection(const IKyRxEnumeration* enumeration) {
+    return KnownCollectionRegistry::getCollection(enumeration);
 }
 
 void KyDiManager::refresh() {

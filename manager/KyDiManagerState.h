@@ -7,12 +7,19 @@
 
 #include <cstdint>
 #include <map>
+#include <vector>
 
 #include "base/KyArray.h"
 #include "base/KyString.h"
 #include "kydi/KyDiTypes.h"
+#include "manager/KnownCollectionRows.h"
 
 class DataItemHostReactor;
+class IKyRxEnumeration;
+class KyDiCollection;
+class KyDiCurrencyTracker;
+class KyDiObservableCollection;
+class KyDiObservableEnumCollection;
 class KyDiDataItemReactor;
 class KyDiExternalReferenceHost;
 class KyDiHost;
@@ -38,6 +45,21 @@ struct KyDiManagerState {
     MemberReactor* memberReactor = nullptr;
     // The items of records and values; owned from initialize to uninitialize.
     LocalDataItemCache* localItemCache = nullptr;
+
+    // The known-collection rows: those of modules first, then the static ones.
+    std::vector<KnownCollectionRow> knownCollectionRows;
+    // Path to the name of the collection it reaches.
+    std::map<KyString, KyString, KyStringLess> knownCollectionPaths;
+    // Collections by name; owned, made at first demand.
+    std::map<KyString, KyDiObservableCollection*, KyStringLess> knownCollections;
+    // Collections a later demand with a tracker replaced under their name:
+    // unreachable by name, kept until uninitialize.
+    std::vector<KyDiObservableCollection*> replacedCollections;
+    // Collections of enumerations, plain or with a current item; owned.
+    std::map<const IKyRxEnumeration*, KyDiCollection*> enumCollections;
+    std::map<const IKyRxEnumeration*, KyDiObservableEnumCollection*> observableEnumCollections;
+    // Trackers by collection name; owned. An entry may be null.
+    std::map<KyString, KyDiCurrencyTracker*, KyStringLess> currencyTrackers;
 
     // System variable objects by name (case-sensitive); owned.
     std::map<KyString, KyDiSysVar*, KyStringLess> sysVars;

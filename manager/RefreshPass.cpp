@@ -1,14 +1,19 @@
 #include "manager/RefreshPass.h"
 
+#include <set>
 #include <vector>
 
+#include "collections/KyDiImpCollectionBase.h"
 #include "db/KyDbDatabase.h"
 #include "kydi/KyDiManagerReactor.h"
+#include "kydi/KyDiObservableCollection.h"
+#include "kydi/KyDiObservableEnumCollection.h"
 #include "kydi/KyDiSysVar.h"
 #include "manager/KyDiManagerState.h"
 #include "manager/LocalDataItemCache.h"
 #include "manager/ObjectReactorHub.h"
 #include "manager/host/KyDiHostAccess.h"
+#include "objects/KyDiObservableEnumCollectionImp.h"
 #include "pal/KyPal.h"
 #include "sysvars/KyUiImpSysVar.h"
 
@@ -23,6 +28,10 @@ public:
     NotifyEventMark(const NotifyEventMark&) = delete;
     NotifyEventMark& operator=(const NotifyEventMark&) = delete;
 };
+
+KyDiImpCollectionBase* bodyOf(KyDiObservableCollection* collection) {
+    return static_cast<KyDiImpCollectionBase*>(collection->imp());
+}
 
 }  // namespace
 
@@ -42,10 +51,9 @@ void RefreshPass::run(bool force) {
     tellRefreshStarting();
     // System variable reactors are told ahead of the collections.
     refreshSysVars();
-    // Here come, in this order: the item cache's erased items taken, "LAYER"
-    // and "BLOCK" updated ahead of the other known collections, the
-    // enumeration collections following the current document, the effective
-    // properties and the context manager flushed.
+    updateCollections();
+    refreshEnumCollections();
+    // Here come the effective properties and the context manager, flushed.
     ObjectReactorHub::pass();
     if (state.localItemCache != nullptr) {
         state.localItemCache->endOfRefresh();
@@ -103,6 +111,51 @@ void RefreshPass::refreshSysVars() {
     }
     for (KyDiSysVar* sysVar : sysVars) {
         sysVar->imp()->refresh();
+    }
+}
+
+void RefreshPass::updateCollections() {
+    KyDiManagerState& state = kydiManagerState();
+    // What the selection erased, for the collections that follow it.
+    std::set<KyDiDbItem*> erased;
+    if (state.localItemCache != nullptr) {
+        if (const std::set<KyDiDbItem*>* now =
+                state.localItemCache->erasedItemsOfCurrentDocument()) {
+            erased = *now;
+        }
+    }
+    // The layers and the blocks go first: others depend on them (the images
+    // on the blocks, the effective properties on the layers). The map does
+    // not change during the walk: an update makes no collection.
+    const auto& collections = state.knownCollections;
+    const wchar_t* const kFirst[] = {L"LAYER", L"BLOCK"};
+    for (const wchar_t* name : kFirst) {
+        if (const auto found = collections.find(name); found != collections.end()) {
+            bodyOf(found->second)->update();
+        }
+    }
+    std::vector<KyDiImpCollectionBase*> others;
+    for (const auto& [name, collection] : collections) {
+        if (name.compare(kFirst[0]) != 0 && name.compare(kFirst[1]) != 0) {
+            others.push_back(bodyOf(collection));
+        }
+    }
+    for (KyDiImpCollectionBase* collection : others) {
+        collection->update();
+        if (!erased.empty() &&
+            (collection->traits() & KyDiImpCollectionBase::kSelectionDependent) != 0) {
+            collection->subSelectionRefreshed(erased);
+        }
+    }
+}
+
+void RefreshPass::refreshEnumCollections() {
+    std::vector<KyDiObservableEnumCollectionImp*> collections;
+    for (const auto& [enumeration, collection] : kydiManagerState().observableEnumCollections) {
+        collections.push_back(static_cast<KyDiObservableEnumCollectionImp*>(collection->imp()));
+    }
+    for (KyDiObservableEnumCollectionImp* collection : collections) {
+        collection->refresh();
     }
 }
 

@@ -28,6 +28,10 @@ private:
     static void readEditingState();
     static void tellRefreshStarting();
     static void refreshSysVars();
+    // "LAYER", then "BLOCK", then the other known collections by name.
+    static void updateCollections();
+    // The enumeration collections follow the current document and tracker.
+    static void refreshEnumCollections();
     static void tellRefreshEnded();
     static void callNotifyHandlers();
 };

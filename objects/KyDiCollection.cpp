@@ -1,7 +1,6 @@
 #include "kydi/KyDiCollection.h"
 
 #include "collections/KyDiImpCollection.h"
-#include "kydi/KyDiObservableCollection.h"
 
 KyDiCollection::KyDiCollection(KyDiImpCollection* imp) : m_imp(imp) {}
 
@@ -16,7 +15,3 @@ const KyDiItemArray& KyDiCollection::getItems(void** context) const {
     }
     return m_imp->items;
 }
-
-KyDiObservableCollection::KyDiObservableCollection(KyDiImpCollection* imp) : KyDiCollection(imp) {}
-
-KyDiObservableCollection::~KyDiObservableCollection() = default;

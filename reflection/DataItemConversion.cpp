@@ -2,11 +2,15 @@
 #include "db/KyCmColor.h"
 #include "db/KyCmTransparency.h"
 #include "db/KyDbObjectId.h"
+#include "kydi/KyDiCollection.h"
 #include "kydi/KyDiDataItemFactory.h"
 #include "kydi/KyDiDbItem.h"
 #include "kydi/KyDiFunctions.h"
+#include "kydi/KyDiManager.h"
 #include "kydi/KyDiValueTypes.h"
+#include "rx/KyRxMethod.h"
 #include "rx/KyRxProperty.h"
+#include "rx/KyRxStandardAttributes.h"
 
 bool KyDiConvertToDataItem(KyRxValue& value) {
     const KyRxValueType& type = value.type();
@@ -21,6 +25,24 @@ bool KyDiConvertToDataItem(KyRxValue& value) {
         value = KyRxValue(createDataItem(color->colorNameForDisplay(), value));
     } else if (type == KyRxValueType::Desc<KyCmTransparency>::value()) {
         value = KyRxValue(createDataItem(KyString(), value));
+    } else if (type.enumeration() != nullptr &&
+               type.attributes().get(KyRxFlagsAttribute::desc()) == nullptr) {
+        // A value of an enumeration becomes the item of its tag in the
+        // enumeration's collection; bit flags stay values.
+        const KyRxEnumTag* tag = value.getEnumTag();
+        KyDiCollection* collection =
+            tag != nullptr ? KyDiManager::getCollection(type.enumeration()) : nullptr;
+        if (collection != nullptr) {
+            const KyDiItemArray& items = collection->getItems();
+            for (int i = 0; i < items.length(); ++i) {
+                const KyRxValue* itemValue = items[i]->value();
+                if (itemValue != nullptr && &itemValue->type() == &tag->value().type() &&
+                    type.equalTo(itemValue->valuePtr(), tag->value().valuePtr())) {
+                    value = KyRxValue(items[i]);
+                    break;
+                }
+            }
+        }
     }
     return true;
 }

@@ -1,6 +1,6 @@
-// KyDiCollection: what a client holds of a list
-// of items. Each is one pointer over an implementation that the data item
-// layer builds and owns; a client deletes neither.
+// KyDiCollection: what a client holds of a list of items, one pointer over an
+// implementation that the data item layer builds and owns. A client deletes
+// nothing it is given: collections come from KyDiManager and belong to it.
 #pragma once
 
 #include "kydi/KyDiDynamicObject.h"

@@ -44,3 +44,11 @@ KYDI_API bool KyDiConvertToDataItem(KyRxValue& value);
 // The ids of the layers of a layer filter item of the flat filter list. The
 // caller is required to give such an item.
 KYDI_API const KyArray<KyDbObjectId>& GetFilterLayers(KyDiDynamicObject* item);
+
+// Tells the known collection `name` to build its list anew at the next
+// refresh (a reset), or to look again (a refill). False for a name the
+// system does not know; the collection is made if it wasn't yet.
+KYDI_API bool KyDiNotifyCollectionReset(const wchar_t* name);
+KYDI_API bool KyDiNotifyCollectionModified(const wchar_t* name);
+// The same reset for the list of recent blocks, when it can be made.
+KYDI_API void KyDiNotifyRecentBlockCollectionReset();

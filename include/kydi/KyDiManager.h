@@ -7,7 +7,11 @@
 #include "base/KyroErrorStatus.h"
 #include "kydi/KyDiExport.h"
 
+class IKyRxEnumeration;
+class KyDiCollection;
+class KyDiCurrencyTracker;
 class KyDiDataItemReactor;
+class KyDiObservableCollection;
 class KyDiExternalReferenceHost;
 class KyDiHost;
 class KyDiManagerReactor;
@@ -36,6 +40,25 @@ public:
     static void initializeXRefHost(KyDiExternalReferenceHost* xrefHost);
     static void uninitializeXRefHost();
     static KyDiExternalReferenceHost* getXRefHost();
+
+    // The known collection `name` ("LAYER", "LINETYPE", "KYRO_MATERIAL" ...),
+    // made at its first demand and kept until uninitialize; null for a name
+    // the system does not know (names are case-sensitive) and after
+    // uninitialize.
+    static KyDiObservableCollection* getKnownCollection(const wchar_t* name);
+    // The same, but a name no row knows is taken as the path of keys of a
+    // dictionary ("SITE\NOTES"), listed with `tracker` (not owned). It does
+    // not look for an existing collection first: a second call makes a new
+    // one, which the name then answers.
+    static KyDiObservableCollection* getKnownCollection(const wchar_t* name,
+                                                        KyDiCurrencyTracker* tracker);
+    // The known collection that a reference path reaches
+    // ("/LinetypeTableId/Items"); null for a path no row gives.
+    static KyDiObservableCollection* getKnownCollectionFromPath(const wchar_t* path);
+    // The values of an enumeration as items: with a current item for an
+    // enumeration that a tracker follows, a plain list for any other. The
+    // same object for the same enumeration.
+    static KyDiCollection* getCollection(const IKyRxEnumeration* enumeration);
 
     // The system variable `name` (case-sensitive), made at the first request
     // and kept until uninitialize. Null when the host can't read the variable:

@@ -1,12 +1,30 @@
 #include "manager/host/DataItemHostReactor.h"
 
+#include "collections/KyDiImpCollectionBase.h"
+#include "currency/DataItemCurrencyTrackerBase.h"
+#include "kydi/KyDiObservableCollection.h"
+#include "kydi/KyDiObservableEnumCollection.h"
 #include "kydi/KyDiSysVar.h"
 #include "manager/KyDiManagerState.h"
 #include "manager/LocalDataItemCache.h"
 #include "manager/ObjectReactorHub.h"
 #include "manager/RefreshPass.h"
 #include "manager/host/KyDiHostAccess.h"
+#include "objects/KyDiObservableEnumCollectionImp.h"
 #include "sysvars/KyUiImpSysVar.h"
+
+namespace {
+
+// Calls `mark` on every known collection. Marking makes no collection and
+// removes none, so the map is walked as it stands.
+template <typename Mark>
+void markCollections(Mark mark) {
+    for (const auto& [name, collection] : kydiManagerState().knownCollections) {
+        mark(*static_cast<KyDiImpCollectionBase*>(collection->imp()));
+    }
+}
+
+}  // namespace
 
 void DataItemHostReactor::refreshNeeded(bool force) {
     RefreshPass::run(force);
@@ -14,9 +32,15 @@ void DataItemHostReactor::refreshNeeded(bool force) {
 
 void DataItemHostReactor::documentToBeDestroyed(KyDiDocument document) {
     KyDiManagerState& state = kydiManagerState();
-    // Here come, in this order, the known collections, the enumeration
-    // collections, the effective properties, the context manager and the
-    // built contexts letting go of the document.
+    markCollections([document](KyDiImpCollectionBase& collection) {
+        collection.deactivate(document, nullptr);
+    });
+    for (const auto& [enumeration, collection] : state.observableEnumCollections) {
+        static_cast<KyDiObservableEnumCollectionImp*>(collection->imp())
+            ->documentToBeDestroyed(document);
+    }
+    // Here come, in this order, the effective properties, the context manager
+    // and the built contexts letting go of the document.
     ObjectReactorHub::documentToBeDestroyed(document);
     if (state.localItemCache != nullptr) {
         state.localItemCache->retireDocument(document);
@@ -39,31 +63,54 @@ void DataItemHostReactor::documentDestructionDone() {
     kydiManagerState().dyingDatabase = kKyDiNoDocument;
 }
 
-void DataItemHostReactor::sysVarChanged(const wchar_t* /*name*/, bool success) {
-    if (!success) {
+void DataItemHostReactor::sysVarChanged(const wchar_t* name, bool success) {
+    if (!success || name == nullptr) {
         return;
     }
-    // Here come the currency trackers that watch this variable, marking
-    // their reactors. The system variable objects read the host in every
-    // refresh pass and need no mark.
+    // The trackers that watch the variable mark their collections. The
+    // system variable objects read the host in every refresh pass and need
+    // no mark.
+    for (const auto& [collection, tracker] : kydiManagerState().currencyTrackers) {
+        auto* watcher = dynamic_cast<DataItemCurrencyTrackerBase*>(tracker);
+        if (watcher == nullptr) {
+            continue;
+        }
+        watcher->sysVarChanged(name, success);
+        if (!watcher->sysVarName().isEmpty() && watcher->sysVarName().compareNoCase(name) == 0) {
+            watcher->notifyReactors();
+        }
+    }
 }
 
 void DataItemHostReactor::sysVarWillChange(const wchar_t* /*name*/) {}
 
 void DataItemHostReactor::commandWillStart(const wchar_t* /*globalCommandName*/) {}
 
-// The events below mark the known collections, the built contexts and the
-// currency trackers that they concern, which come here; they touch nothing
-// else.
-void DataItemHostReactor::hostStateChanged() {}
+// The events below only mark the known collections (and, as they come, the
+// effective properties, the built contexts and the trackers of plot settings
+// and layouts); the refresh pass does the rest.
+void DataItemHostReactor::hostStateChanged() {
+    markCollections([](KyDiImpCollectionBase& collection) { collection.subHostStateChanged(); });
+}
 
-void DataItemHostReactor::invalidateAll() {}
+void DataItemHostReactor::invalidateAll() {
+    markCollections([](KyDiImpCollectionBase& collection) { collection.subInvalidate(); });
+}
 
-void DataItemHostReactor::drawingContentChanged() {}
+void DataItemHostReactor::drawingContentChanged() {
+    markCollections(
+        [](KyDiImpCollectionBase& collection) { collection.subDrawingContentChanged(); });
+}
 
-void DataItemHostReactor::commandEnded(const wchar_t* /*globalCommandName*/) {}
+void DataItemHostReactor::commandEnded(const wchar_t* globalCommandName) {
+    markCollections([globalCommandName](KyDiImpCollectionBase& collection) {
+        collection.subCommandEnded(globalCommandName);
+    });
+}
 
-void DataItemHostReactor::ucsChanged() {}
+void DataItemHostReactor::ucsChanged() {
+    markCollections([](KyDiImpCollectionBase& collection) { collection.subUcsChanged(); });
+}
 
 void DataItemHostReactor::plotSettingsChanged() {}
 
@@ -78,18 +125,17 @@ void DataItemHostReactor::documentBecameQuiet(KyDiDocument document) {
         return;
     }
     RefreshPass::run(true);
-    // Here come the known collections updating what they still hold pending,
-    // and the effective properties flushing.
+    markCollections([](KyDiImpCollectionBase& collection) { collection.updateIfPending(); });
+    // Here come the effective properties, flushing.
 }
 
 void DataItemHostReactor::documentBecameBusy(KyDiDocument document) {
     if (document != KyDiHostAccess::currentDocument()) {
         return;
     }
-    // Here come the known collections, dropping what they hold pending.
-    //
     // What the host changed up to now is taken as known without telling
     // anybody: the next pass reports only what changes from here on.
+    markCollections([](KyDiImpCollectionBase& collection) { collection.discardPending(); });
     for (const auto& [name, sysVar] : kydiManagerState().sysVars) {
         sysVar->imp()->rereadSilently();
     }

@@ -47,6 +47,10 @@ KyDiDocument KyDiHostAccess::rawCurrentDocument() {
     return documents != nullptr ? documents->currentDocument() : kKyDiNoDocument;
 }
 
+KyDiDocument KyDiHostAccess::dyingDocument() {
+    return kydiManagerState().dyingDatabase;
+}
+
 KyDbDatabase* KyDiHostAccess::workingDatabase() {
     KyDiDocumentManager* documents = documentManager();
     return documents != nullptr ? documents->workingDatabase() : nullptr;

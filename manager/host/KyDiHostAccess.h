@@ -29,6 +29,8 @@ public:
     static KyDiDocument currentDocument();
     // The document manager's answer as it stands.
     static KyDiDocument rawCurrentDocument();
+    // The document the host is destroying now; no document at other times.
+    static KyDiDocument dyingDocument();
     // The database that commands work on now; null without one.
     static KyDbDatabase* workingDatabase();
     // The document that owns `database`; no document for a database without

@@ -1,5 +1,7 @@
 #include "manager/host/KyDiSymbolTableRegister.h"
 
+#include "db/KyDbPointCloudFeature.h"
+
 IKyDiSymbolTableRegisterHost* IKyDiSymbolTableRegisterHost::s_instance = nullptr;
 
 IKyDiSymbolTableRegisterHost::~IKyDiSymbolTableRegisterHost() = default;
@@ -21,6 +23,8 @@ KyDiSymbolTableRegister::~KyDiSymbolTableRegister() {
 }
 
 void KyDiSymbolTableRegister::registerDataItemFactories() {
-    // The point cloud collections' rows come here when the point cloud
-    // module is present.
+    // The point cloud collections exist only with the point cloud module.
+    if (pointCloudFeaturePresent()) {
+        // Here come the rows of the three point cloud collections.
+    }
 }

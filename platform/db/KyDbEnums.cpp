@@ -101,7 +101,11 @@ const KyRxValueType& KyRxValueType::Desc<KyDb::LineWeight>::value() {
 
 template <>
 const KyRxValueType& KyRxValueType::Desc<KyDb::ShadowFlags>::value() {
-    static const KyRxValueType* const s_type =
-        new KyDbEnumValueType<KyDb::ShadowFlags>(L"KyDbShadowFlags", kShadowTable);
+    static const KyRxValueType* const s_type = [] {
+        auto* type = new KyDbEnumValueType<KyDb::ShadowFlags>(L"KyDbShadowFlags", kShadowTable);
+        // Its values are two bits (no receiving, no casting), not a choice.
+        type->attributes().add(new KyRxFlagsAttribute());
+        return type;
+    }();
     return *s_type;
 }

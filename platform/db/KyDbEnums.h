@@ -65,5 +65,6 @@ template <>
 KYPLATFORM_API const KyRxValueType& KyRxValueType::Desc<KyDb::LineWeight>::value();
 // Named "KyDbShadowFlags". Tags "Casts and receives shadows", "Casts shadows",
 // "Receives shadows", "Ignore shadows", local names from texts 9100 to 9103.
+// The type carries a KyRxFlagsAttribute: its values are bits.
 template <>
 KYPLATFORM_API const KyRxValueType& KyRxValueType::Desc<KyDb::ShadowFlags>::value();

@@ -1,0 +1,121 @@
+#include "manager/KnownCollectionRows.h"
+
+#include "collections/KyDiImpDataLayoutItemCollection.h"
+#include "collections/KyDiImpDataMaterialItemCollection.h"
+#include "collections/KyDiImpDataPlotSettingsItemCollection.h"
+#include "collections/KyDiImpDictionaryItemCollection.h"
+#include "collections/KyDiImpLineTypeCollection.h"
+#include "collections/KyDiImpSymbolTableItemCollection.h"
+#include "currency/DataItemCurrencyTracker.h"
+#include "db/KyDbDatabase.h"
+
+namespace {
+
+KyDiCurrencyTracker* newDataItemTracker(const wchar_t* name, const wchar_t* sysVar,
+                                        const wchar_t* commandFormat, KyDbIdGetter getCurrent,
+                                        KyDbIdSetter setCurrent) {
+    return new DataItemCurrencyTracker(name, sysVar, commandFormat, getCurrent, setCurrent);
+}
+
+// A factory of a collection class that takes the name, the tracker and the
+// table's accessor.
+template <typename Collection>
+KyDiImpCollection* newTableCollection(const wchar_t* name, KyDiCurrencyTracker* tracker,
+                                      KyDbIdGetter getTableId) {
+    return new Collection(name, tracker, getTableId);
+}
+
+// A factory of a collection class that takes the name and the tracker.
+template <typename Collection>
+KyDiImpCollection* newCollection(const wchar_t* name, KyDiCurrencyTracker* tracker,
+                                 KyDbIdGetter /*getTableId*/) {
+    return new Collection(name, tracker);
+}
+
+using Db = KyDbDatabase;
+
+// The thirty rows, as each collection is known. A row without a tracker or a
+// collection class is served once its class exists.
+const KnownCollectionRow kRows[] = {
+    {L"DIMSTYLE", &newDataItemTracker, L"DIMSTYLE", &Db::dimstyle, &Db::setDimstyle,
+     &Db::dimStyleTableId, &newTableCollection<KyDiImpSymbolTableItemCollection>,
+     L"_-dimstyle\n_Restore\n%ls\n", L"/DimStyleTableId/Items"},
+    {L"LAYER", nullptr, L"CLAYER", &Db::clayer, &Db::setClayer, &Db::layerTableId, nullptr,
+     L"'_clayer\n%ls\n", L"/LayerTableId/Items"},
+    {L"TEXTSTYLE", &newDataItemTracker, L"TEXTSTYLE", &Db::textstyle, &Db::setTextstyle,
+     &Db::textStyleTableId, &newTableCollection<KyDiImpSymbolTableItemCollection>,
+     L"'_textstyle\n%ls\n", L"/TextStyleTableId/Items"},
+    {L"LINETYPE", &newDataItemTracker, L"CELTYPE", &Db::celtype, &Db::setCeltype,
+     &Db::linetypeTableId, &newTableCollection<KyDiImpLineTypeCollection>, L"'_celtype\n%ls\n",
+     L"/LinetypeTableId/Items"},
+    {L"KYRO_TABLESTYLE", &newDataItemTracker, L"CTABLESTYLE", &Db::tablestyle, &Db::setTablestyle,
+     nullptr, &newCollection<KyDiImpDictionaryItemCollection>, L"'_ctablestyle\n%ls\n",
+     L"/TableStyleDictionaryId/Items"},
+    {L"KYRO_MLEADERSTYLE", &newDataItemTracker, L"CMLEADERSTYLE", &Db::mleaderstyle,
+     &Db::setMLeaderstyle, nullptr, &newCollection<KyDiImpDictionaryItemCollection>,
+     L"'_cmleaderstyle\n%ls\n", L"/MLeaderStyleDictionaryId/Items"},
+    {L"KYRO_SECTIONVIEWSTYLE", &newDataItemTracker, L"CVIEWSECTIONSTYLE", &Db::sectionViewStyle,
+     &Db::setSectionViewStyle, nullptr, &newCollection<KyDiImpDictionaryItemCollection>,
+     L"'_cviewsectionstyle\n%ls\n", L"/SectionViewStyleDictionaryId/Items"},
+    {L"KYRO_DETAILVIEWSTYLE", &newDataItemTracker, L"CVIEWDETAILSTYLE", &Db::detailViewStyle,
+     &Db::setDetailViewStyle, nullptr, &newCollection<KyDiImpDictionaryItemCollection>,
+     L"'_cviewdetailstyle\n%ls\n", L"/DetailViewStyleDictionaryId/Items"},
+    {L"KYRO_MATERIAL", &newDataItemTracker, L"CMATERIAL", &Db::cmaterial, &Db::setCmaterial,
+     &Db::materialDictionaryId, &newCollection<KyDiImpDataMaterialItemCollection>, nullptr,
+     L"/MaterialDictionaryId/Items"},
+    {L"KYRO_LAYOUT", nullptr, L"CTAB", nullptr, nullptr, &Db::layoutDictionaryId,
+     &newCollection<KyDiImpDataLayoutItemCollection>, nullptr, L"LayoutDictionaryId/Items"},
+    {L"KYRO_PLOTSETTINGS", nullptr, nullptr, nullptr, nullptr, &Db::plotSettingsDictionaryId,
+     &newCollection<KyDiImpDataPlotSettingsItemCollection>, nullptr,
+     L"plotSettingsDictionaryId/Items"},
+    {L"KYRO_VISUALSTYLE", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+     L"/VisualStyleDictionaryId/Items"},
+    {L"KYRO_LAYERSTATES", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
+    {L"NAMEDVIEWS", nullptr, nullptr, nullptr, nullptr, &Db::viewTableId, nullptr, nullptr,
+     nullptr},
+    {L"KYRO_PLOTSTYLENAME", nullptr, L"CPLOTSTYLE", nullptr, nullptr, nullptr, nullptr, nullptr,
+     L"/PlotStyleNameDictionaryId/Items"},
+    {L"KYDI_DATAITEM_SELECTED_ITEMS", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+     nullptr},
+    {L"TABLE_CELLSTYLES", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+     L"/TableCellStyleString/Items"},
+    {L"RECENTBLOCK", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+     L"/RecentBlock/Items"},
+    {L"COUNTING", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+     L"/Counting/Items"},
+    {L"RENDER_PRESETS", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+     L"/RenderSettingsDictionary/Items"},
+    {L"UCS_PLANES", nullptr, nullptr, nullptr, nullptr, &Db::UCSTableId, nullptr, nullptr, nullptr},
+    {L"COLOR", nullptr, L"CECOLOR", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
+    {L"LAYERFILTERS", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
+    {L"LAYERFILTER_TREE", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
+    {L"SCALELIST", nullptr, L"CANNOSCALE", nullptr, nullptr, nullptr, nullptr, nullptr,
+     L"/ScaleListDictionaryId/Items"},
+    {L"BLOCK", nullptr, nullptr, nullptr, nullptr, &Db::blockTableId, nullptr, nullptr,
+     L"/BlockTableId/Items"},
+    {L"PLOTSTYLETABLE", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+     L"/PlotStyleTable/Items"},
+    {L"VIEWPORT", nullptr, nullptr, nullptr, nullptr, &Db::viewportTableId, nullptr, nullptr,
+     L"/ViewportTableId/Items"},
+    {L"NAMEDMODELVIEWS", nullptr, nullptr, nullptr, nullptr, &Db::viewTableId, nullptr, nullptr,
+     nullptr},
+    {L"IMAGE", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
+};
+
+static_assert(std::size(kRows) == 30, "the thirty known collections");
+
+const KnownEnumRow kEnumRows[] = {
+    {L"LINEWEIGHT", nullptr, L"CELWEIGHT", L"'_celweight\n%d\n"},
+    {L"SHADOWDISPLAY", nullptr, L"CSHADOW", L"'_cshadow\n%d\n"},
+    {nullptr, nullptr, nullptr, nullptr},
+};
+
+}  // namespace
+
+std::span<const KnownCollectionRow> KnownCollectionRows::staticRows() {
+    return kRows;
+}
+
+const KnownEnumRow* KnownCollectionRows::enumRows() {
+    return kEnumRows;
+}
