@@ -63,12 +63,12 @@ void KyDiImpDbObjectCollection::objectErased(const KyDbObject* object, bool /*er
 
 void KyDiImpDbObjectCollection::subApplyItemChanges(KyDiItemArray& added, KyDiItemArray& removed,
                                                     KyDiItemArray& modified) {
-    // What the merge reported is not reported again as a modification.
-    for (int i = 0; i < modified.length(); ++i) {
-        m_pendingObjects.erase(idOf(modified[i]));
-    }
-    for (int i = 0; i < removed.length(); ++i) {
-        m_pendingObjects.erase(idOf(removed[i]));
+    // What the merge reported is not reported again as a modification: a
+    // record that came (back) is new to the client, not changed.
+    for (const KyDiItemArray* reported : {&modified, &removed, &added}) {
+        for (int i = 0; i < reported->length(); ++i) {
+            m_pendingObjects.erase(idOf((*reported)[i]));
+        }
     }
     for (int i = 0; i < added.length(); ++i) {
         attachOnce(idOf(added[i]), m_objectReactor);

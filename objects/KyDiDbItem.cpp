@@ -26,7 +26,9 @@ KyRxMemberIterator* KyDiDbItem::subNewItemMemberIterator() {
     if (m_objectId.isNull()) {
         return nullptr;
     }
-    KyDbObjectPointer<KyDbObject> object(m_objectId, KyDb::kForRead);
+    // An erased record still shows its members: a client reads the item of a
+    // record that went, as a collection reports it removed.
+    KyDbObjectPointer<KyDbObject> object(m_objectId, KyDb::kForRead, true);
     if (object.openStatus() != Kyro::eOk) {
         return nullptr;
     }

@@ -1,0 +1,91 @@
+#include "collections/CollectionFixture.h"
+
+#include "KyRefDocument.h"
+#include "db/KyAxDocLock.h"
+#include "db/KyDbDatabase.h"
+#include "db/KyDbLinetypeTableRecord.h"
+#include "db/KyDbObjectPointer.h"
+#include "db/KyDbSymbolTable.h"
+#include "db/KyDbTextStyleTableRecord.h"
+#include "db/KyDbUndoController.h"
+
+namespace kytest {
+
+namespace {
+
+// A document lock and an undo group, as a command has them.
+class Edit {
+public:
+    explicit Edit(KyDbDatabase* database) : m_lock(database), m_database(database) {
+        m_database->undoController()->beginUndoGroup();
+    }
+    ~Edit() { m_database->undoController()->endUndoGroup(); }
+    Edit(const Edit&) = delete;
+    Edit& operator=(const Edit&) = delete;
+
+private:
+    KyAxDocLock m_lock;
+    KyDbDatabase* m_database;
+};
+
+template <typename Record>
+KyDbObjectId addRecord(KyDbDatabase* db, KyDbObjectId tableId, const wchar_t* name) {
+    const Edit edit(db);
+    KyDbObjectPointer<KyDbSymbolTable> table(tableId, KyDb::kForWrite);
+    auto* record = new Record();
+    record->setName(name);
+    KyDbObjectId id;
+    EXPECT_EQ(table->add(id, record), Kyro::eOk);
+    record->close();
+    return id;
+}
+
+}  // namespace
+
+KyDbDatabase* CollectionFixture::db() {
+    return host.documents().current()->database();
+}
+
+KyDbObjectId CollectionFixture::addLinetype(const wchar_t* name) {
+    return addRecord<KyDbLinetypeTableRecord>(db(), db()->linetypeTableId(), name);
+}
+
+KyDbObjectId CollectionFixture::addTextStyle(const wchar_t* name) {
+    return addRecord<KyDbTextStyleTableRecord>(db(), db()->textStyleTableId(), name);
+}
+
+void CollectionFixture::rename(KyDbObjectId id, const wchar_t* name) {
+    const Edit edit(id.database());
+    KyDbObjectPointer<KyDbSymbolTableRecord> record(id, KyDb::kForWrite);
+    ASSERT_EQ(record->setName(name), Kyro::eOk);
+}
+
+void CollectionFixture::erase(KyDbObjectId id, bool erasing) {
+    const Edit edit(id.database());
+    KyDbObjectPointer<KyDbObject> object(id, KyDb::kForWrite, true);
+    ASSERT_EQ(object->erase(erasing), Kyro::eOk);
+}
+
+void CollectionFixture::describe(KyDbObjectId linetype, const wchar_t* description) {
+    const Edit edit(linetype.database());
+    KyDbObjectPointer<KyDbLinetypeTableRecord> record(linetype, KyDb::kForWrite, true);
+    ASSERT_EQ(record->setComments(description), Kyro::eOk);
+}
+
+KyDbObjectId CollectionFixture::recordOf(KyDbObjectId tableId, const wchar_t* name) {
+    KyDbObjectPointer<KyDbSymbolTable> table(tableId, KyDb::kForRead);
+    KyDbObjectId id;
+    table->getAt(name, id);
+    return id;
+}
+
+std::vector<std::string> CollectionFixture::names(KyDiObservableCollection* collection) {
+    std::vector<std::string> result;
+    const KyDiItemArray& items = collection->getItems();
+    for (int i = 0; i < items.length(); ++i) {
+        result.push_back(itemName(items[i]));
+    }
+    return result;
+}
+
+}  // namespace kytest

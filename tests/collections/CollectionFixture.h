@@ -1,0 +1,42 @@
+// The data item layer on the reference host with one new drawing, and the
+// edits the collection tests make to it: each in a document lock and an undo
+// group of its own, as a command makes it, so that U takes it back.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "db/KyDbObjectId.h"
+#include "kydi/KyDiObservableCollection.h"
+#include "manager/RefHostFixture.h"
+#include "support/CollectionContract.h"
+
+class KyDbDatabase;
+
+namespace kytest {
+
+class CollectionFixture : public RefHostFixture {
+protected:
+    using RefHostFixture::RefHostFixture;
+
+    KyDbDatabase* db();
+    // A new linetype (text style) of this name; its id.
+    KyDbObjectId addLinetype(const wchar_t* name);
+    KyDbObjectId addTextStyle(const wchar_t* name);
+    // Renames, erases or unerases a record; changes a linetype's description.
+    void rename(KyDbObjectId id, const wchar_t* name);
+    void erase(KyDbObjectId id, bool erasing = true);
+    void describe(KyDbObjectId linetype, const wchar_t* description);
+    // The id of a table's record by name.
+    KyDbObjectId recordOf(KyDbObjectId tableId, const wchar_t* name);
+
+    // A forced pass.
+    static void pass() { KyDiManager::refresh(); }
+    // The display names of the items, in order.
+    static std::vector<std::string> names(KyDiObservableCollection* collection);
+    static KyDiObservableCollection* known(const wchar_t* name) {
+        return KyDiManager::getKnownCollection(name);
+    }
+};
+
+}  // namespace kytest
