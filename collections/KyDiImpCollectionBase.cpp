@@ -232,6 +232,9 @@ unsigned KyDiImpCollectionBase::resetItems(unsigned bits) {
     if (auto* shared = dynamic_cast<DataItemCurrencyTrackerBase*>(m_tracker)) {
         shared->notifyReactors();
     }
+    // The activity told with this reset is the one after it: the next update
+    // does not tell it again.
+    m_wasActive = isActive();
     m_pendingFlags = 0;
     subClearPending();
     return bits | kChangeReset;

@@ -82,7 +82,10 @@ void KyRefDocument::destroyDatabase() {
         return;
     }
     // The document's own reactor goes first: it has nothing to hear of a
-    // drawing that leaves memory. The reactors of others hear goodbye.
+    // drawing that leaves memory. The reactors of others hear goodbye, while
+    // the document still answers its database, as a host's document does
+    // until the database is gone.
     m_database->removeReactor(m_reactor.get());
-    m_database.reset();
+    delete m_database.get();
+    static_cast<void>(m_database.release());
 }
