@@ -120,3 +120,16 @@ void KyDiNotifyRecentBlockCollectionReset() {
         body->requestReset();
     }
 }
+
+KyDiKnownCollectionNames KyDiGetKnownCollectionNames() {
+    const KyDiManagerState& state = kydiManagerState();
+    KyDiKnownCollectionNames names;
+    for (const KnownCollectionRow& row : state.knownCollectionRows) {
+        KyDiKnownCollectionName entry;
+        entry.name = row.name;
+        entry.built = state.knownCollections.contains(row.name);
+        entry.available = row.newCollection != nullptr;
+        names.append(entry);
+    }
+    return names;
+}

@@ -20,6 +20,10 @@ KyDiDynamicObject* KyDiObservableCollection::getCurrentItem() const {
     return bodyOf(this)->currentItem();
 }
 
+bool KyDiObservableCollection::hasTracker() const {
+    return bodyOf(this)->tracker() != nullptr;
+}
+
 void KyDiObservableCollection::setCurrentItem(KyDiDynamicObject* item) {
     KyDiImpCollectionBase* body = bodyOf(this);
     if (!body->isActive() || body->tracker() == nullptr) {

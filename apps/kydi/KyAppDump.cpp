@@ -1,5 +1,6 @@
 #include "KyAppDump.h"
 
+#include "KyAppPropertyValue.h"
 #include "KyAppSysVarValue.h"
 #include "KyRefHost.h"
 #include "db/KyDbBlockTableRecord.h"
@@ -14,7 +15,10 @@
 #include "io/KyRefTableRows.h"
 #include "io/KyRefValueForms.h"
 #include "io/KyRefWriteContext.h"
+#include "kydi/KyDiDbItem.h"
+#include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiManager.h"
+#include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiSysVar.h"
 
 namespace {
@@ -127,12 +131,57 @@ KyRefJson tablesJson(KyRefWriteContext& context) {
     return out;
 }
 
+KyRefJson itemJson(KyDiDynamicObject* item) {
+    KyRefJson out = KyRefJson::object();
+    out["name"] = KyDiGetItemName(item).utf8();
+    const auto* record = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(item));
+    if (record != nullptr && !record->objectId().isNull()) {
+        out["handle"] = KyRefValueForms::handle(KyDbHandle(record->objectId().handle()));
+        out["value"] = nullptr;
+    } else {
+        out["handle"] = nullptr;
+        const KyRxValue* value = item->value();
+        out["value"] = value != nullptr ? KyAppPropertyValue::format(*value) : std::string();
+    }
+    return out;
+}
+
+// Every known collection that the registry can make, in the order of its
+// rows, each with its items in its own order.
+KyRefJson collectionsJson() {
+    KyRefJson out = KyRefJson::array();
+    const KyDiKnownCollectionNames names = KyDiGetKnownCollectionNames();
+    for (int i = 0; i < names.length(); ++i) {
+        if (!names[i].available) {
+            continue;
+        }
+        KyDiObservableCollection* collection = KyDiManager::getKnownCollection(names[i].name);
+        if (collection == nullptr) {
+            continue;
+        }
+        KyRefJson entry = KyRefJson::object();
+        entry["name"] = names[i].name.utf8();
+        entry["active"] = collection->isActive();
+        KyDiDynamicObject* current = collection->getCurrentItem();
+        entry["current"] =
+            current != nullptr ? KyRefJson(KyDiGetItemName(current).utf8()) : KyRefJson();
+        KyRefJson items = KyRefJson::array();
+        const KyDiItemArray& all = collection->getItems();
+        for (int j = 0; j < all.length(); ++j) {
+            items.push_back(itemJson(all[j]));
+        }
+        entry["items"] = std::move(items);
+        out.push_back(std::move(entry));
+    }
+    return out;
+}
+
 }  // namespace
 
 KyRefJson KyAppDump::build(KyRefHost& host) {
     KyRefJson out = KyRefJson::object();
     out["document"] = documentJson(host);
-    out["collections"] = KyRefJson::array();
+    out["collections"] = collectionsJson();
     out["contexts"] = KyRefJson::array();
     out["sysvars"] = sysVarsJson(host);
     KyDbDatabase* database = host.documents().currentDatabase();

@@ -192,11 +192,29 @@ void writeHeader(const KyRefJson& header, std::ostream& out) {
     }
 }
 
+void writeCollections(const KyRefJson& collections, std::ostream& out) {
+    line(out, 0, "collections " + std::to_string(collections.size()));
+    for (const KyRefJson& collection : collections) {
+        const std::string current =
+            collection["current"].is_null() ? "none" : textOf(collection["current"]);
+        line(out, 1,
+             collection["name"].get<std::string>() + " " +
+                 std::to_string(collection["items"].size()) + " items, current " + current +
+                 (collection["active"].get<bool>() ? "" : ", inactive"));
+        for (const KyRefJson& item : collection["items"]) {
+            const std::string where = item["handle"].is_null()
+                                          ? item["value"].get<std::string>()
+                                          : "#" + item["handle"].get<std::string>();
+            line(out, 2, textOf(item["name"].get<std::string>()) + " " + where);
+        }
+    }
+}
+
 }  // namespace
 
 void KyAppDumpText::write(const KyRefJson& dump, std::ostream& out) {
     writeDocument(dump["document"], out);
-    line(out, 0, "collections " + std::to_string(dump["collections"].size()));
+    writeCollections(dump["collections"], out);
     line(out, 0, "contexts " + std::to_string(dump["contexts"].size()));
     writeSysVars(dump["sysvars"], out);
     writeTables(dump["tables"], out);

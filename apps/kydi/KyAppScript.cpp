@@ -3,6 +3,7 @@
 #include <charconv>
 #include <optional>
 
+#include "KyAppCollectionWatch.h"
 #include "KyAppHostEventPrinter.h"
 #include "KyAppMemberList.h"
 #include "KyAppObjectWatch.h"
@@ -23,6 +24,7 @@
 #include "kydi/KyDiDynamicObject.h"
 #include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiManager.h"
+#include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiSysVar.h"
 #include "rx/KyRxProperty.h"
 
@@ -63,6 +65,7 @@ KyAppScript::KyAppScript(KyAppSession& session, std::ostream& out)
 KyAppScript::~KyAppScript() {
     m_sysVarWatches.clear();
     m_objectWatches.clear();
+    m_collectionWatches.clear();
     if (m_hostPrinter != nullptr) {
         m_session.host().removeReactor(m_hostPrinter.get());
     }
@@ -88,6 +91,7 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"sysvar", 1, 2, "sysvar NAME [VALUE]", &Script::sysvar},
         {"language", 1, 1, "language CODE", &Script::language},
         {"members", 1, 1, "members HANDLE", &Script::members},
+        {"collections", 0, 0, "collections", &Script::collections},
         {"items", 1, 1, "items COLLECTION", &Script::collectionStatement},
         {"current", 1, 2, "current COLLECTION [ITEM]", &Script::collectionStatement},
         {"get", 3, 3, "get COLLECTION ITEM PROPERTY", &Script::collectionStatement},
@@ -298,7 +302,19 @@ bool KyAppScript::watch(const KyAppStatement& statement) {
         return true;
     }
     if (what == "collection" && !name.empty()) {
-        return fail("unknown collection " + name);
+        KyDiObservableCollection* collection =
+            KyDiManager::getKnownCollection(KyString::fromUtf8(name));
+        if (collection == nullptr) {
+            return fail("unknown collection " + name);
+        }
+        for (const auto& watch : m_collectionWatches) {
+            if (watch->name() == name) {
+                return true;
+            }
+        }
+        m_collectionWatches.push_back(
+            std::make_unique<KyAppCollectionWatch>(name, collection, m_out));
+        return true;
     }
     if (what == "context" && !name.empty()) {
         return fail("unknown context " + name);
@@ -400,16 +416,26 @@ KyDiDynamicObject* KyAppScript::layerItem(const std::string& name, std::string& 
     return createDataItem(KyString::fromUtf8(name), KyRxValue(id), nullptr, nullptr, true);
 }
 
-bool KyAppScript::layerStatement(const KyAppStatement& statement) {
-    std::string error;
-    KyDiDynamicObject* item = layerItem(statement.words[1].text, error);
-    if (item == nullptr) {
-        return fail(error);
+KyDiDynamicObject* KyAppScript::itemOf(KyDiObservableCollection* collection,
+                                       const std::string& collectionName, const std::string& name,
+                                       std::string& error) {
+    const KyString wanted = KyString::fromUtf8(name);
+    const KyDiItemArray& items = collection->getItems();
+    for (int i = 0; i < items.length(); ++i) {
+        if (KyDiGetItemName(items[i]).compare(wanted) == 0) {
+            return items[i];
+        }
     }
+    error = collectionName + " has no item " + KyAppValue::text(name).format();
+    return nullptr;
+}
+
+bool KyAppScript::propertyStatement(const KyAppStatement& statement, KyDiDynamicObject* item) {
     const std::string& name = statement.words[2].text;
     const auto* property = kyrxCast<KyRxProperty>(KyDiFindMember(item, KyString::fromUtf8(name)));
     if (property == nullptr) {
-        return fail("a layer has no property " + name);
+        return fail(KyAppValue::text(statement.words[1].text).format() + " has no property " +
+                    name);
     }
     if (statement.name == "get") {
         KyRxValue value;
@@ -420,6 +446,7 @@ bool KyAppScript::layerStatement(const KyAppStatement& statement) {
               << KyAppPropertyValue::format(value) << '\n';
         return true;
     }
+    std::string error;
     const KyAppWord& word = statement.words[3];
     const std::optional<KyAppValue> typed = KyAppValue::parse(word.text, word.quoted, error);
     KyRxValue value;
@@ -435,13 +462,59 @@ bool KyAppScript::layerStatement(const KyAppStatement& statement) {
 }
 
 bool KyAppScript::collectionStatement(const KyAppStatement& statement) {
-    // Of the collections, the program reaches the layers, each through the
-    // layer's item.
-    if ((statement.name == "get" || statement.name == "set") &&
-        statement.words[0].text == "LAYER") {
-        return layerStatement(statement);
+    const std::string& name = statement.words[0].text;
+    KyDiObservableCollection* collection =
+        KyDiManager::getKnownCollection(KyString::fromUtf8(name));
+    std::string error;
+    if (collection == nullptr) {
+        // Until the layers are a collection of their own, a layer is reached
+        // through its item.
+        if (name == "LAYER" && (statement.name == "get" || statement.name == "set")) {
+            KyDiDynamicObject* item = layerItem(statement.words[1].text, error);
+            return item != nullptr ? propertyStatement(statement, item) : fail(error);
+        }
+        return fail("unknown collection " + name);
     }
-    return fail("unknown collection " + statement.words[0].text);
+    if (statement.name == "items") {
+        const KyDiItemArray& items = collection->getItems();
+        for (int i = 0; i < items.length(); ++i) {
+            KyRxValue value;
+            items[i]->value(value);
+            m_out << KyAppCollectionWatch::itemText(items[i]) << ' '
+                  << KyAppPropertyValue::format(value) << '\n';
+        }
+        return true;
+    }
+    if (statement.name == "current") {
+        if (!collection->hasTracker()) {
+            return fail(name + " has no current item");
+        }
+        if (statement.words.size() == 1) {
+            m_out << name << ' ' << KyAppCollectionWatch::itemText(collection->getCurrentItem())
+                  << '\n';
+            return true;
+        }
+        KyDiDynamicObject* item = itemOf(collection, name, statement.words[1].text, error);
+        if (item == nullptr) {
+            return fail(error);
+        }
+        collection->setCurrentItem(item);
+        return true;
+    }
+    KyDiDynamicObject* item = itemOf(collection, name, statement.words[1].text, error);
+    return item != nullptr ? propertyStatement(statement, item) : fail(error);
+}
+
+bool KyAppScript::collections(const KyAppStatement&) {
+    const KyDiKnownCollectionNames names = KyDiGetKnownCollectionNames();
+    for (int i = 0; i < names.length(); ++i) {
+        m_out << names[i].name.utf8() << ' '
+              << (names[i].built       ? "built"
+                  : names[i].available ? "can be made"
+                                       : "not available")
+              << '\n';
+    }
+    return true;
 }
 
 bool KyAppScript::context(const KyAppStatement& statement) {

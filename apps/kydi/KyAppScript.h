@@ -16,6 +16,8 @@
 //   sysvar NAME [VALUE]
 //   language CODE      the platform's texts: "base" or a language of its texts ("de")
 //   members HANDLE     the members of a drawing object as a palette sees them
+//   collections        the names of the known collections: built, can be made, or not
+//                      available in this build
 //   items COLLECTION, current COLLECTION [ITEM], get COLLECTION ITEM PROPERTY,
 //   set COLLECTION ITEM PROPERTY VALUE, context NAME [PROPERTY [VALUE]]
 #pragma once
@@ -29,7 +31,9 @@
 
 #include "KyAppStatement.h"
 
+class KyAppCollectionWatch;
 class KyAppHostEventPrinter;
+class KyDiObservableCollection;
 class KyAppObjectWatch;
 class KyDbObjectId;
 class KyDiDynamicObject;
@@ -71,7 +75,12 @@ private:
     // The item of the layer `name` of the current document; null with
     // `error` when there is none.
     KyDiDynamicObject* layerItem(const std::string& name, std::string& error);
-    bool layerStatement(const KyAppStatement& statement);
+    // The item `name` of a collection, by its display name; null with
+    // `error` when there is none.
+    KyDiDynamicObject* itemOf(KyDiObservableCollection* collection,
+                              const std::string& collectionName, const std::string& name,
+                              std::string& error);
+    bool propertyStatement(const KyAppStatement& statement, KyDiDynamicObject* item);
 
     bool open(const KyAppStatement& statement);
     bool newDocument(const KyAppStatement& statement);
@@ -89,6 +98,7 @@ private:
     bool sysvar(const KyAppStatement& statement);
     bool language(const KyAppStatement& statement);
     bool members(const KyAppStatement& statement);
+    bool collections(const KyAppStatement& statement);
     bool collectionStatement(const KyAppStatement& statement);
     bool context(const KyAppStatement& statement);
 
@@ -97,5 +107,6 @@ private:
     std::unique_ptr<KyAppHostEventPrinter> m_hostPrinter;
     std::vector<std::unique_ptr<KyAppSysVarWatch>> m_sysVarWatches;
     std::vector<std::unique_ptr<KyAppObjectWatch>> m_objectWatches;
+    std::vector<std::unique_ptr<KyAppCollectionWatch>> m_collectionWatches;
     bool m_anyFailed = false;
 };

@@ -52,3 +52,15 @@ KYDI_API bool KyDiNotifyCollectionReset(const wchar_t* name);
 KYDI_API bool KyDiNotifyCollectionModified(const wchar_t* name);
 // The same reset for the list of recent blocks, when it can be made.
 KYDI_API void KyDiNotifyRecentBlockCollectionReset();
+
+// A name the registry of known collections knows, in the order of its rows:
+// whether its collection is made already, and whether it can be made (a name
+// whose class this build lacks can't).
+struct KyDiKnownCollectionName {
+    KyString name;
+    bool built = false;
+    bool available = false;
+};
+using KyDiKnownCollectionNames =
+    KyArray<KyDiKnownCollectionName, KyArrayObjectCopyReallocator<KyDiKnownCollectionName>>;
+KYDI_API KyDiKnownCollectionNames KyDiGetKnownCollectionNames();

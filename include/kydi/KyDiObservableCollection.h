@@ -15,6 +15,8 @@ public:
 
     // The current item as of the last refresh; null without a tracker.
     KyDiDynamicObject* getCurrentItem() const;
+    // Whether a tracker follows a current item in this collection.
+    bool hasTracker() const;
     // Asks the tracker to make `item` current, within a document lock. The
     // change shows at a later refresh, as currentItemChanged; nothing happens
     // for an inactive collection, one without a tracker, or a document that

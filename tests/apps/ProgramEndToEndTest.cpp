@@ -115,6 +115,10 @@ TEST_F(Program, ALayersColourSetThroughItsItemLeavesAsTheTrueColourCommandAndRea
     expectScript("layer_item", 0);
 }
 
+TEST_F(Program, ALinetypeMadeCurrentThroughItsCollectionComesBackAndASwitchResetsTheList) {
+    expectScript("linetype_current", 0);
+}
+
 TEST_F(Program, MembersOfALayerShowTheirLocalNamesInEitherLanguage) {
     expectScript("members", 0);
 }
