@@ -245,6 +245,64 @@ TEST_F(Program, DumpShowsEveryRealDrawingAsItsManifestCountsIt) {
     }
 }
 
+// The records a collection keeps of a table of the dump, in table order:
+// linetypes leave out those of external references (named "reference|name").
+std::vector<std::string> keptRecords(const KyRefJson& records, bool leaveOutDependent) {
+    std::vector<std::string> names;
+    for (const KyRefJson& record : records) {
+        const std::string name = record["name"].get<std::string>();
+        if (!name.empty() && !(leaveOutDependent && name.find('|') != std::string::npos)) {
+            names.push_back(name);
+        }
+    }
+    return names;
+}
+
+TEST_F(Program, TheTableCollectionsOfEveryRealDrawingKeepItsRecordsAndItsCurrentOnes) {
+    const char* drawings = std::getenv("KYDI_DRAWINGS_DIR");
+    if (drawings == nullptr || !fs::exists(fs::path(drawings) / "MANIFEST.tsv")) {
+        GTEST_SKIP() << "the real drawings are not beside the checkout";
+    }
+    const struct {
+        const char* collection;
+        const char* table;
+        const char* variable;
+        bool leaveOutDependent;
+    } kTables[] = {{"LINETYPE", "linetypes", "CELTYPE", true},
+                   {"TEXTSTYLE", "textStyles", "TEXTSTYLE", false},
+                   {"DIMSTYLE", "dimStyles", "DIMSTYLE", false}};
+    int drawingsSeen = 0;
+    for (const auto& entry : fs::directory_iterator(drawings)) {
+        if (entry.path().extension() != ".kyd") {
+            continue;
+        }
+        ++drawingsSeen;
+        const std::string file = entry.path().filename().string();
+        const Outcome outcome = kydi("dump --json '" + entry.path().string() + "'");
+        ASSERT_EQ(outcome.status, 0) << file;
+        const KyRefJson dump = readJson(outcome.out);
+        for (const auto& table : kTables) {
+            const KyRefJson* collection = nullptr;
+            for (const KyRefJson& each : dump["collections"]) {
+                if (each["name"] == table.collection) {
+                    collection = &each;
+                }
+            }
+            ASSERT_NE(collection, nullptr) << file << " " << table.collection;
+            std::vector<std::string> items;
+            for (const KyRefJson& item : (*collection)["items"]) {
+                items.push_back(item["name"].get<std::string>());
+            }
+            EXPECT_EQ(items, keptRecords(dump["tables"][table.table], table.leaveOutDependent))
+                << file << " " << table.collection;
+            EXPECT_EQ((*collection)["current"], dump["header"][table.variable])
+                << file << " " << table.collection;
+            EXPECT_TRUE((*collection)["active"].get<bool>()) << file;
+        }
+    }
+    EXPECT_GT(drawingsSeen, 5);
+}
+
 TEST_F(Program, ADrawingThatCantBeOpenedIsAnErrorAndStatusOne) {
     const Outcome outcome = kydi("dump missing.kyd");
     EXPECT_EQ(outcome.out,
