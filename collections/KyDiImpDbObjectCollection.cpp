@@ -73,6 +73,14 @@ void KyDiImpDbObjectCollection::subApplyItemChanges(KyDiItemArray& added, KyDiIt
     for (int i = 0; i < added.length(); ++i) {
         attachOnce(idOf(added[i]), m_objectReactor);
     }
+    // A record that left the list is heard no more, unless it is watched for
+    // the undo of its erase.
+    for (int i = 0; i < removed.length(); ++i) {
+        const KyDbObjectId id = idOf(removed[i]);
+        if (!m_watchedErased.contains(id)) {
+            detachFrom(id, nullptr, m_objectReactor);
+        }
+    }
 }
 
 void KyDiImpDbObjectCollection::subCollectModified(KyDiItemArray& modified) {

@@ -3,7 +3,9 @@
 #include "KyRefDocument.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
+#include "db/KyDbDictionary.h"
 #include "db/KyDbLinetypeTableRecord.h"
+#include "db/KyDbMaterial.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbSymbolTable.h"
 #include "db/KyDbTextStyleTableRecord.h"
@@ -52,6 +54,17 @@ KyDbObjectId CollectionFixture::addLinetype(const wchar_t* name) {
 
 KyDbObjectId CollectionFixture::addTextStyle(const wchar_t* name) {
     return addRecord<KyDbTextStyleTableRecord>(db(), db()->textStyleTableId(), name);
+}
+
+KyDbObjectId CollectionFixture::addMaterial(const wchar_t* name) {
+    const Edit edit(db());
+    KyDbObjectPointer<KyDbDictionary> materials(db()->materialDictionaryId(), KyDb::kForWrite);
+    auto* material = new KyDbMaterial();
+    material->setName(name);
+    KyDbObjectId id;
+    EXPECT_EQ(materials->setAt(name, material, id), Kyro::eOk);
+    material->close();
+    return id;
 }
 
 void CollectionFixture::rename(KyDbObjectId id, const wchar_t* name) {

@@ -23,6 +23,8 @@ protected:
     // A new linetype (text style) of this name; its id.
     KyDbObjectId addLinetype(const wchar_t* name);
     KyDbObjectId addTextStyle(const wchar_t* name);
+    // A new material under this key of the materials' dictionary.
+    KyDbObjectId addMaterial(const wchar_t* name);
     // Renames, erases or unerases a record; changes a linetype's description.
     void rename(KyDbObjectId id, const wchar_t* name);
     void erase(KyDbObjectId id, bool erasing = true);

@@ -1,0 +1,44 @@
+// A named dictionary as a live collection (the materials): entries that come
+// and go, and a current item that a row without a command writes directly.
+#include <gtest/gtest.h>
+
+#include "collections/CollectionFixture.h"
+#include "db/KyDbDatabase.h"
+
+namespace {
+
+using kytest::CollectionSpy;
+using kytest::ContractChecker;
+using Lines = std::vector<std::string>;
+
+class DictionaryCollections : public kytest::CollectionFixture {};
+
+TEST_F(DictionaryCollections, EntriesThatComeAndGoAreToldAndTheCurrentOneIsWrittenDirectly) {
+    KyDiObservableCollection* materials = known(L"KYRO_MATERIAL");
+    ASSERT_NE(materials, nullptr);
+    const std::vector<std::string> before = names(materials);
+    pass();
+    ContractChecker checker(materials, "KYRO_MATERIAL");
+    CollectionSpy spy(materials);
+    const KyDbObjectId brick = addMaterial(L"Brick");
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"itemsChanged added=[Brick] removed=[]"}));
+    KyDiDynamicObject* item = materials->getItems().last();
+
+    // The row has no command: the tracker writes the current material.
+    materials->setCurrentItem(item);
+    EXPECT_EQ(sentTexts(), std::vector<std::wstring>{});
+    EXPECT_EQ(db()->cmaterial(), brick);
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"currentItemChanged Brick"}));
+
+    erase(brick);
+    pass();
+    EXPECT_EQ(spy.take(),
+              (Lines{"itemsChanged added=[] removed=[Brick]", "currentItemChanged null"}))
+        << "the current material went with its entry";
+    EXPECT_EQ(names(materials), before);
+    checker.expectInStep();
+}
+
+}  // namespace
