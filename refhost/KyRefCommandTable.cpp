@@ -10,6 +10,7 @@
 #include "KyRefLineCommand.h"
 #include "KyRefOptChPropCommand.h"
 #include "KyRefPointCommand.h"
+#include "KyRefRecordCommand.h"
 #include "KyRefRedoCommand.h"
 #include "KyRefSelectCommand.h"
 #include "KyRefSetVarCommand.h"
@@ -37,6 +38,7 @@ const KyRefCommandRow kRows[] = {
     {L"LINE", L"LINIE", 0, &Table::make<KyRefLineCommand>},
     {L"OPTCHPROP", L"OPTEIGAENDR", 0, &Table::make<KyRefOptChPropCommand>},
     {L"POINT", L"PUNKT", 0, &Table::make<KyRefPointCommand>},
+    {L"RECORD", L"EINTRAG", 0, &Table::make<KyRefRecordCommand>},
     {L"REDO", L"WIEDERHERSTELLEN", 0, &Table::make<KyRefRedoCommand>},
     {L"SELECT", L"WAEHLEN", 0, &Table::make<KyRefSelectCommand>},
     {L"SETVAR", L"VARSETZEN", kCommandTransparent | kCommandWithoutDocument,
