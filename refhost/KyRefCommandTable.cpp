@@ -1,5 +1,6 @@
 #include "KyRefCommandTable.h"
 
+#include "KyRefBatchCommand.h"
 #include "KyRefChPropCommand.h"
 #include "KyRefCircleCommand.h"
 #include "KyRefDimStyleCommand.h"
@@ -32,6 +33,7 @@ const KyRefCommandRow kRows[] = {
     {L"-INSERT", L"-EINFUEGE", 0, &Table::make<KyRefInsertCommand>},
     {L"-LAYER", L"-EBENE", kCommandTransparent, &Table::make<KyRefLayerCommand>},
     {L"-XATTACH", L"-XZUORDNEN", 0, &Table::make<KyRefXAttachCommand>},
+    {L"BATCH", L"STAPEL", 0, &Table::make<KyRefBatchCommand>},
     {L"CHPROP", L"EIGAENDR", 0, &Table::make<KyRefChPropCommand>},
     {L"CIRCLE", L"KREIS", 0, &Table::make<KyRefCircleCommand>},
     {L"ERASE", L"LOESCHEN", 0, &Table::make<KyRefEraseCommand>},
