@@ -5,6 +5,7 @@
 #include "KyRefNamedItem.h"
 #include "KyRefReadAccess.h"
 #include "KyRefRecordKind.h"
+#include "KyRefRecordReferences.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbDictionary.h"
 #include "db/KyDbLayerTableRecord.h"
@@ -161,6 +162,10 @@ void erase(RecordRun& run) {
     }
     if (run.kind.checkErase != nullptr) {
         run.kind.checkErase(run.context, id, name);
+    }
+    if (run.kind.keptWhileReferenced &&
+        KyRefRecordReferences::isReferenced(run.context.database(), id)) {
+        run.context.fail(L"Cannot erase %ls \"%ls\": it is in use.", run.kind.what, name.kwszPtr());
     }
     Kyro::ErrorStatus status = Kyro::eOk;
     {

@@ -28,8 +28,11 @@
 // "Standard" styles, the standard materials and visual styles and the model
 // layout, and it can't erase what is current (the current layer, linetype,
 // text style, dimension style, table style ...). The host refuses besides to
-// erase the current UCS, to rename or erase the current visual style, and to
-// erase the layout of the paper space, the only one it shows.
+// erase the current UCS, to rename or erase the current visual style, to
+// erase the layout of the paper space, the only one it shows, and to erase
+// what something of the drawing refers to (a layer with entities on it, a
+// linetype of a layer, the text style of a dimension style ...), so that a
+// saved drawing never names what it lacks.
 //
 // A new layout gets a paper space block of its own and the next tab order;
 // an erased layout takes its block and what that holds with it. Renaming the

@@ -32,6 +32,10 @@ struct KyRefRecordKind {
     // Gives one, open for write, the name `name`: a record's name, an
     // entry's own name. The status of the setter.
     Kyro::ErrorStatus (*rename)(KyDbObject& object, const wchar_t* name);
+    // True when one that something of the drawing refers to can't be erased
+    // (KyRefRecordReferences); false for a layout, whose block refers to it
+    // and goes with it.
+    bool keptWhileReferenced;
 
     // The host's part; null when the kind has none.
     // After a new one came into its table or dictionary.

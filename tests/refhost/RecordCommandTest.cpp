@@ -1,6 +1,9 @@
 // RECORD makes, renames and erases the records of every table and the entries
 // of every named dictionary, as one command each that U takes back; what the
 // drawing or the host refuses is an error line that changes nothing.
+#include <unistd.h>
+
+#include <filesystem>
 #include <string>
 
 #include "DrawingContent.h"
@@ -8,8 +11,11 @@
 #include "RefHostTestSupport.h"
 #include "base/KyRxResourceInstance.h"
 #include "db/KyDbBlockTableRecord.h"
+#include "db/KyDbDimStyleTableRecord.h"
 #include "db/KyDbEntity.h"
+#include "db/KyDbLayerTableRecord.h"
 #include "db/KyDbLayout.h"
+#include "db/KyDbLinetypeTableRecord.h"
 #include "db/KyDbMLeaderStyle.h"
 #include "db/KyDbMaterial.h"
 #include "db/KyDbModelDocViewStyle.h"
@@ -20,6 +26,8 @@
 
 namespace refhost {
 namespace {
+
+namespace fs = std::filesystem;
 
 class RecordCommandTest : public RefHostTest {
 protected:
@@ -208,13 +216,15 @@ TEST_F(RecordCommandTest, BadInputAndWhatTheDrawingRefusesAreErrorLinesThatChang
     expectRefused(L"RECORD\n_Erase\nLAYER\n0\n", "Cannot erase layer \"0\".");
     expectRefused(L"RECORD\n_Erase\nLAYER\nWALLS\n", "Cannot erase the current layer \"Walls\".");
     expectRefused(L"RECORD\n_Erase\nTEXTSTYLE\nStandard\n",
-                  "Cannot erase text style \"Standard\".");
+                  "Cannot erase text style \"Standard\": it is in use.");
     expectRefused(L"RECORD\n_Erase\nTEXTSTYLE\nMono\n",
                   "Cannot erase the current text style \"Mono\".");
     expectRefused(L"RECORD\n_Erase\nLINETYPE\nByLayer\n",
                   "Cannot erase the current linetype \"ByLayer\".");
     expectRefused(L"RECORD\n_Erase\nLINETYPE\nContinuous\n",
-                  "Cannot erase linetype \"Continuous\".");
+                  "Cannot erase linetype \"Continuous\": it is in use.");
+    expectRefused(L"RECORD\n_Erase\nLINETYPE\nByBlock\n", "Cannot erase linetype \"ByBlock\".");
+    expectRefused(L"RECORD\n_Erase\nMATERIAL\nGlobal\n", "Cannot erase material \"Global\".");
     expectRefused(L"RECORD\n_Erase\nTABLESTYLE\nStandard\n",
                   "Cannot erase the current table style \"Standard\".");
     expectRefused(L"RECORD\n_Erase\nVISUALSTYLE\nRealistic\n",
@@ -226,6 +236,53 @@ TEST_F(RecordCommandTest, BadInputAndWhatTheDrawingRefusesAreErrorLinesThatChang
     EXPECT_EQ(db()->undoController()->undoCount(), undoCount) << "nothing was recorded";
     EXPECT_FALSE(walls.isErased());
     EXPECT_EQ(getString(L"CLAYER"), "Walls");
+}
+
+TEST_F(RecordCommandTest, WhatTheDrawingRefersToStaysUntilNothingDoesAndTheSavedDrawingReadsBack) {
+    DrawingContent content(db());
+    const KyDbObjectId dashed =
+        content.addRecord<KyDbLinetypeTableRecord>(db()->linetypeTableId(), L"Dashed");
+    const KyDbObjectId walls = content.addRecord<KyDbLayerTableRecord>(
+        db()->layerTableId(), L"Walls",
+        [dashed](KyDbLayerTableRecord& layer) { layer.setLinetypeObjectId(dashed); });
+    const KyDbObjectId mono =
+        content.addRecord<KyDbTextStyleTableRecord>(db()->textStyleTableId(), L"Mono");
+    content.addRecord<KyDbDimStyleTableRecord>(
+        db()->dimStyleTableId(), L"Arch",
+        [mono](KyDbDimStyleTableRecord& style) { style.setDimtxsty(mono); });
+    const KyDbObjectId entity = addEntity(L"Walls");
+    spy.take();
+
+    expectRefused(L"RECORD\n_Erase\nLAYER\nWalls\n", "Cannot erase layer \"Walls\": it is in use.");
+    expectRefused(L"RECORD\n_Erase\nLINETYPE\nDashed\n",
+                  "Cannot erase linetype \"Dashed\": it is in use.");
+    expectRefused(L"RECORD\n_Erase\nTEXTSTYLE\nMono\n",
+                  "Cannot erase text style \"Mono\": it is in use.");
+
+    run((L"ERASE\n" + handleOf(entity) + L"\n\n").c_str());
+    ASSERT_TRUE(entity.isErased());
+    spy.take();
+    runRecord(L"RECORD\n_Erase\nLAYER\nWalls\n");
+    // Its layer is erased: nothing refers to the linetype any more.
+    runRecord(L"RECORD\n_Erase\nLINETYPE\nDashed\n");
+    EXPECT_TRUE(walls.isErased());
+    EXPECT_TRUE(dashed.isErased());
+    runRecord(L"RECORD\n_New\nLAYOUT\nSheet\n");
+    runRecord(L"RECORD\n_Rename\nDIMSTYLE\nArch\nPlan\n");
+
+    const fs::path file =
+        fs::temp_directory_path() / ("kydi-records-" + std::to_string(getpid()) + ".kyd");
+    KyString error;
+    ASSERT_TRUE(host->documents().saveDocument(host->documents().current(),
+                                               KyString::fromUtf8(file.string()), error))
+        << error.utf8();
+    KyRefDocument* reopened =
+        host->documents().openDocument(KyString::fromUtf8(file.string()), error);
+    fs::remove(file);
+    ASSERT_NE(reopened, nullptr) << error.utf8();
+    EXPECT_FALSE(find(&KyDbDatabase::layoutDictionaryId, L"Sheet").isNull());
+    EXPECT_FALSE(find(&KyDbDatabase::dimStyleTableId, L"Plan").isNull());
+    EXPECT_TRUE(find(&KyDbDatabase::layerTableId, L"Walls").isNull());
 }
 
 TEST_F(RecordCommandTest, TheHostKeepsItsCurrentUcsAndVisualStyleAndFollowsARenamedUcs) {
