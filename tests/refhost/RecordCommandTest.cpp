@@ -296,6 +296,14 @@ TEST_F(RecordCommandTest, TheHostKeepsItsCurrentUcsAndVisualStyleAndFollowsARena
     EXPECT_EQ(spy.take(), (Lines{"commandWillStart RECORD", "sysVarChanged UCSNAME true",
                                  "ucsChanged", "commandEnded RECORD", "refreshNeeded false"}));
 
+    // A renamed current layer is a new value of CLAYER.
+    run(L"RECORD\n_New\nLAYER\nWalls\nCLAYER\nWalls\nRECORD\n_Rename\nLAYER\nWalls\nOuter walls\n");
+    EXPECT_EQ(getString(L"CLAYER"), "Outer walls");
+    const Lines events = spy.take();
+    EXPECT_EQ(Lines(events.end() - 4, events.end()),
+              (Lines{"commandWillStart RECORD", "sysVarChanged CLAYER true", "commandEnded RECORD",
+                     "refreshNeeded false"}));
+
     runRecord(L"RECORD\n_New\nVISUALSTYLE\nMine\n");
     host->visualStyleService()->setCurrentName(L"Mine");
     expectRefused(L"RECORD\n_Rename\nVISUALSTYLE\nMine\nYours\n",
