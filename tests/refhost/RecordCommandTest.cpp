@@ -285,7 +285,7 @@ TEST_F(RecordCommandTest, WhatTheDrawingRefersToStaysUntilNothingDoesAndTheSaved
     EXPECT_TRUE(find(&KyDbDatabase::layerTableId, L"Walls").isNull());
 }
 
-TEST_F(RecordCommandTest, TheHostKeepsItsCurrentUcsAndVisualStyleAndFollowsARenamedUcs) {
+TEST_F(RecordCommandTest, ARenamedCurrentUcsOrLayerIsToldAndTheHostKeepsItsCurrentOnes) {
     runRecord(L"RECORD\n_New\nUCS\nPlan\n");
     run(L"UCS\n_NAmed\n_Restore\nPlan\n");
     ASSERT_EQ(getString(L"UCSNAME"), "Plan");
@@ -300,6 +300,7 @@ TEST_F(RecordCommandTest, TheHostKeepsItsCurrentUcsAndVisualStyleAndFollowsARena
     run(L"RECORD\n_New\nLAYER\nWalls\nCLAYER\nWalls\nRECORD\n_Rename\nLAYER\nWalls\nOuter walls\n");
     EXPECT_EQ(getString(L"CLAYER"), "Outer walls");
     const Lines events = spy.take();
+    ASSERT_GE(events.size(), 4u);
     EXPECT_EQ(Lines(events.end() - 4, events.end()),
               (Lines{"commandWillStart RECORD", "sysVarChanged CLAYER true", "commandEnded RECORD",
                      "refreshNeeded false"}));
