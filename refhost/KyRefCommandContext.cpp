@@ -138,6 +138,14 @@ std::vector<KyDbObjectId> KyRefCommandContext::readEntities(const wchar_t* promp
     }
 }
 
+bool KyRefCommandContext::runAsBatch(std::wstring text) {
+    if (m_interpreter.isRunningBatch()) {
+        return false;
+    }
+    m_shared.batch = std::move(text);
+    return true;
+}
+
 void KyRefCommandContext::message(const wchar_t* format, ...) {
     va_list args;
     va_start(args, format);

@@ -10,6 +10,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "KyRefCommandInput.h"
@@ -28,6 +29,7 @@ public:
     struct Shared {
         std::vector<KyString> endedCommands;  // transparent commands that ended, in order
         bool contentChanged = false;
+        std::optional<std::wstring> batch;  // command text to run as a batch after the command
     };
 
     KyRefCommandContext(KyRefCommandInterpreter& interpreter, KyRefCommandInput& input,
@@ -78,6 +80,14 @@ public:
     // The command changed the drawing by a road that tells no object
     // reactors enough (an undo): the host reports drawingContentChanged.
     void noteContentChanged() { m_shared.contentChanged = true; }
+
+    // ---- After the command
+
+    // Command text (answers one a line) to run as a batch once the command
+    // has ended: its commands one after the other in the document, between
+    // documentBecameBusy and documentBecameQuiet. False, and nothing to run,
+    // while a batch runs already: batches don't nest.
+    bool runAsBatch(std::wstring text);
 
     int level() const { return m_level; }
     Shared& shared() { return m_shared; }

@@ -1,5 +1,7 @@
 #include "KyRefCommandInterpreter.h"
 
+#include <utility>
+
 #include "KyRefCommand.h"
 #include "KyRefCommandContext.h"
 #include "KyRefCommandInput.h"
@@ -232,7 +234,24 @@ KyRefCommandInterpreter::Outcome KyRefCommandInterpreter::runTopLevel(const Reso
         m_host.events().raiseCommandEnded(resolved.globalName);
     }
     m_host.events().raiseRefreshNeeded(false);
+    if (outcome == Outcome::kDone && shared.batch.has_value() && document != nullptr) {
+        runBatch(document->handle(), std::move(*shared.batch));
+    }
     return outcome;
+}
+
+void KyRefCommandInterpreter::runBatch(KyDiDocument document, std::wstring text) {
+    m_host.events().raiseDocumentBecameBusy(document);
+    // The batch is new input: nothing of it has been shown.
+    const std::size_t replayEnd = std::exchange(m_replayEnd, 0);
+    m_runningBatch = true;
+    KyRefCommandInput input(std::move(text));
+    run(input);
+    // The batch is all the input its commands get.
+    dropWaitingCommand();
+    m_runningBatch = false;
+    m_replayEnd = replayEnd;
+    m_host.events().raiseDocumentBecameQuiet(document);
 }
 
 void KyRefCommandInterpreter::showPrompt(const wchar_t* prompt, int level, std::size_t position) {

@@ -12,6 +12,13 @@
 // A command whose answers haven't all been typed waits at its prompt: its
 // changes are taken back for now, and once more input comes it runs again from
 // its start over all of its input, the part shown already not shown twice.
+//
+// A command may leave command text to run as a batch (BATCH): once it has
+// ended, the host raises documentBecameBusy for the document, runs the
+// batch's commands one after the other as typed commands (each its own undo
+// step, with its own events; one that fails is taken back and the next one
+// runs), cancels a command that the batch leaves waiting for an answer, and
+// raises documentBecameQuiet. Then the input after the command goes on.
 #pragma once
 
 #include <cstddef>
@@ -49,6 +56,8 @@ public:
     KyString commandNames() const;
     // Input queued and not run yet, after what a waiting command has taken.
     bool hasQueuedInput() const { return !m_queue.empty(); }
+    // True while the commands of a batch run.
+    bool isRunningBatch() const { return m_runningBatch; }
 
     // A waiting command is abandoned: its document goes away, or another
     // document comes in front.
@@ -77,6 +86,7 @@ private:
     // Runs commands from `input` until it is used up or a command waits.
     void run(KyRefCommandInput& input);
     Outcome runTopLevel(const Resolved& resolved, KyRefCommandInput& input, std::size_t start);
+    void runBatch(KyDiDocument document, std::wstring text);
 
     // For the context: shows a prompt, unless the command replays input
     // shown already. At the answer that made it wait the prompt stands on the
@@ -101,4 +111,5 @@ private:
     bool m_muted = false;
     std::vector<KyString> m_active;
     bool m_running = false;
+    bool m_runningBatch = false;
 };

@@ -1,5 +1,6 @@
 #include "KyRefCommandTable.h"
 
+#include "KyRefBatchCommand.h"
 #include "KyRefChPropCommand.h"
 #include "KyRefCircleCommand.h"
 #include "KyRefDimStyleCommand.h"
@@ -10,6 +11,7 @@
 #include "KyRefLineCommand.h"
 #include "KyRefOptChPropCommand.h"
 #include "KyRefPointCommand.h"
+#include "KyRefRecordCommand.h"
 #include "KyRefRedoCommand.h"
 #include "KyRefSelectCommand.h"
 #include "KyRefSetVarCommand.h"
@@ -31,12 +33,14 @@ const KyRefCommandRow kRows[] = {
     {L"-INSERT", L"-EINFUEGE", 0, &Table::make<KyRefInsertCommand>},
     {L"-LAYER", L"-EBENE", kCommandTransparent, &Table::make<KyRefLayerCommand>},
     {L"-XATTACH", L"-XZUORDNEN", 0, &Table::make<KyRefXAttachCommand>},
+    {L"BATCH", L"STAPEL", 0, &Table::make<KyRefBatchCommand>},
     {L"CHPROP", L"EIGAENDR", 0, &Table::make<KyRefChPropCommand>},
     {L"CIRCLE", L"KREIS", 0, &Table::make<KyRefCircleCommand>},
     {L"ERASE", L"LOESCHEN", 0, &Table::make<KyRefEraseCommand>},
     {L"LINE", L"LINIE", 0, &Table::make<KyRefLineCommand>},
     {L"OPTCHPROP", L"OPTEIGAENDR", 0, &Table::make<KyRefOptChPropCommand>},
     {L"POINT", L"PUNKT", 0, &Table::make<KyRefPointCommand>},
+    {L"RECORD", L"EINTRAG", 0, &Table::make<KyRefRecordCommand>},
     {L"REDO", L"WIEDERHERSTELLEN", 0, &Table::make<KyRefRedoCommand>},
     {L"SELECT", L"WAEHLEN", 0, &Table::make<KyRefSelectCommand>},
     {L"SETVAR", L"VARSETZEN", kCommandTransparent | kCommandWithoutDocument,

@@ -80,6 +80,7 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"close", 0, 0, "close", &Script::close},
         {"save", 1, 1, "save FILE", &Script::save},
         {"command", 1, -1, "command TEXT", &Script::command},
+        {"batch", 1, 1, "batch FILE", &Script::batch},
         {"idle", 0, 0, "idle", &Script::idle},
         {"refresh", 0, 0, "refresh", &Script::refresh},
         {"clock", 1, 1, "clock +MS", &Script::clock},
@@ -204,6 +205,16 @@ bool KyAppScript::command(const KyAppStatement& statement) {
         return fail("the host has no command line");
     }
     const std::string text = KyAppStatementReader::commandText(statement.rest);
+    editor->interpreter().queue(KyString::fromUtf8(text));
+    return true;
+}
+
+bool KyAppScript::batch(const KyAppStatement& statement) {
+    KyRefEditor* editor = m_session.host().editor();
+    if (editor == nullptr) {
+        return fail("the host has no command line");
+    }
+    const std::string text = "_BATCH\n" + statement.words[0].text + "\n";
     editor->interpreter().queue(KyString::fromUtf8(text));
     return true;
 }

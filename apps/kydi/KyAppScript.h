@@ -6,6 +6,9 @@
 // Statements (documents are numbered from 1 in the order they were opened):
 //   open FILE, new, switch N, close, save FILE
 //   command TEXT       queues TEXT as typed (\n a new line, \e the cancel character)
+//   batch FILE         queues the host's BATCH command for FILE: at the next
+//                      idle the host runs the file's commands between
+//                      documentBecameBusy and documentBecameQuiet
 //   idle               the host runs what is queued
 //   refresh            a forced refresh pass
 //   clock +MS          moves the host's manual clock
@@ -88,6 +91,7 @@ private:
     bool close(const KyAppStatement& statement);
     bool save(const KyAppStatement& statement);
     bool command(const KyAppStatement& statement);
+    bool batch(const KyAppStatement& statement);
     bool idle(const KyAppStatement& statement);
     bool refresh(const KyAppStatement& statement);
     bool clock(const KyAppStatement& statement);

@@ -495,9 +495,9 @@ bool KyDbDatabase::isCurrentItem(KyDbObjectId id) const {
     if (id.isNull()) {
         return false;
     }
-    for (const KyString& name : m_header->names()) {
-        const KyDbHeader::Row* row = KyDbHeader::findRow(name);
-        if (row != nullptr && row->kind == KyDbHeader::Kind::kObjectId && idVariable(name) == id) {
+    // Every erase asks: the typed rows are few, the header's names many.
+    for (const KyDbHeader::Row& row : KyDbHeader::rows()) {
+        if (row.kind == KyDbHeader::Kind::kObjectId && idVariable(row.name) == id) {
             return true;
         }
     }

@@ -6,7 +6,10 @@
 //
 // Writes need the dictionary open for write (eWasNotOpenForWrite) and in a
 // database (eNotInDatabase); they change the dictionary, so closing it tells
-// modified and objectClosed.
+// modified and objectClosed. An entry's object erased or unerased (by erase,
+// undo or redo) changes the dictionary too: its reactors hear modified and
+// objectClosed when the erase is told, or at its close when it is open for
+// write then.
 #pragma once
 
 #include <unordered_map>
@@ -64,6 +67,7 @@ protected:
 
 private:
     friend class KyDbDictionaryIterator;
+    friend class KyDbObjectAccess;
 
     struct Entry {
         KyString key;
@@ -74,6 +78,8 @@ private:
     // The position of `key` (erased entries too), -1 if none.
     int find(const wchar_t* key) const;
     int findId(KyDbObjectId id) const;
+    // True when `id` stands under a key, its object erased or not.
+    bool holds(KyDbObjectId id) const { return !id.isNull() && findId(id) >= 0; }
     void rebuildIndex();
 
     std::vector<Entry> m_entries;

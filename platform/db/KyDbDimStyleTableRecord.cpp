@@ -92,6 +92,20 @@ void KyDbDimStyleTableRecord::subAppended(KyDbDatabase* database) {
     }
 }
 
+Kyro::ErrorStatus KyDbDimStyleTableRecord::subCheckRename(const wchar_t* newName) const {
+    if (name().compareNoCase(KyDbStandardContent::kStandard) == 0) {
+        return Kyro::eCannotBeRenamed;
+    }
+    return KyDbSymbolTableRecord::subCheckRename(newName);
+}
+
+Kyro::ErrorStatus KyDbDimStyleTableRecord::subErase(bool erasing) {
+    if (erasing && name().compareNoCase(KyDbStandardContent::kStandard) == 0) {
+        return Kyro::eCannotBeErasedByCaller;
+    }
+    return KyDbSymbolTableRecord::subErase(erasing);
+}
+
 void KyDbDimStyleTableRecord::subSaveState(KyDbStateFiler& filer) const {
     KyDbSymbolTableRecord::subSaveState(filer);
     filer.write(m_textStyle);

@@ -1,5 +1,6 @@
 // KyDbDimStyleTableRecord: a dimension style: the text style of its
 // dimensions, and dimension variables by name (any case), each a value.
+// "Standard" can't be renamed or erased.
 #pragma once
 
 #include <utility>
@@ -27,6 +28,8 @@ public:
     KyStringArray valueNames() const;
 
 protected:
+    Kyro::ErrorStatus subCheckRename(const wchar_t* newName) const override;
+    Kyro::ErrorStatus subErase(bool erasing) override;
     void subAppended(KyDbDatabase* database) override;
     void subSaveState(KyDbStateFiler& filer) const override;
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;

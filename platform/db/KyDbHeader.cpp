@@ -31,6 +31,10 @@ const KyDbHeader::Row kRows[] = {
 
 }  // namespace
 
+std::span<const KyDbHeader::Row> KyDbHeader::rows() {
+    return kRows;
+}
+
 const KyDbHeader::Row* KyDbHeader::findRow(const wchar_t* name) {
     if (name == nullptr) {
         return nullptr;

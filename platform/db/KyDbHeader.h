@@ -8,6 +8,7 @@
 #pragma once
 
 #include <map>
+#include <span>
 
 #include "base/KyString.h"
 #include "db/KyDbNames.h"
@@ -29,6 +30,8 @@ public:
         bool nullAllowed;
     };
 
+    // The rows of the typed variables.
+    static std::span<const Row> rows();
     // The row of a typed variable; null for any other name.
     static const Row* findRow(const wchar_t* name);
     // The value type a row's values have.

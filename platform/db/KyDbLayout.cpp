@@ -23,11 +23,26 @@ KyDbLayout::KyDbLayout() = default;
 
 KyDbLayout::~KyDbLayout() = default;
 
+bool KyDbLayout::hasFixedName() const {
+    return modelType();
+}
+
 Kyro::ErrorStatus KyDbLayout::setLayoutName(const wchar_t* value) {
     if (value == nullptr || value[0] == L'\0') {
         return Kyro::eInvalidInput;
     }
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    // One being made or read takes any name; in a drawing the name stays.
+    if (isDatabaseResident() && hasFixedName() && m_layoutName.compare(value) != 0) {
+        return Kyro::eCannotBeRenamed;
+    }
     return setMember(m_layoutName, KyString(value));
+}
+
+Kyro::ErrorStatus KyDbLayout::subErase(bool erasing) {
+    return erasing && hasFixedName() ? Kyro::eCannotBeErasedByCaller : Kyro::eOk;
 }
 
 Kyro::ErrorStatus KyDbLayout::setTabOrder(int value) {

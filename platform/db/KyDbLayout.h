@@ -1,5 +1,6 @@
 // KyDbLayout: a layout: a named sheet with its tab order
-// (0 for Model) and its block (*Model_Space, *Paper_Space ...).
+// (0 for Model) and its block (*Model_Space, *Paper_Space ...). The model
+// layout of a drawing can't be renamed or erased.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -23,10 +24,13 @@ public:
     bool modelType() const;
 
 protected:
+    Kyro::ErrorStatus subErase(bool erasing) override;
     void subSaveState(KyDbStateFiler& filer) const override;
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
 
 private:
+    // True for a name that a drawing keeps as it is.
+    bool hasFixedName() const;
     KyString m_layoutName;
     int m_tabOrder = 0;
     KyDbObjectId m_block;

@@ -2,6 +2,7 @@
 
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbRecordReference.h"
+#include "db/KyDbStandardContent.h"
 #include "db/KyDbStateFiler.h"
 #include "db/KyDbTextStyleTableRecord.h"
 
@@ -23,11 +24,26 @@ KyDbMLeaderStyle::KyDbMLeaderStyle() = default;
 
 KyDbMLeaderStyle::~KyDbMLeaderStyle() = default;
 
+bool KyDbMLeaderStyle::hasFixedName() const {
+    return m_name.compareNoCase(KyDbStandardContent::kStandard) == 0;
+}
+
 Kyro::ErrorStatus KyDbMLeaderStyle::setName(const wchar_t* value) {
     if (value == nullptr || value[0] == L'\0') {
         return Kyro::eInvalidInput;
     }
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    // One being made or read takes any name; in a drawing the name stays.
+    if (isDatabaseResident() && hasFixedName() && m_name.compare(value) != 0) {
+        return Kyro::eCannotBeRenamed;
+    }
     return setMember(m_name, KyString(value));
+}
+
+Kyro::ErrorStatus KyDbMLeaderStyle::subErase(bool erasing) {
+    return erasing && hasFixedName() ? Kyro::eCannotBeErasedByCaller : Kyro::eOk;
 }
 
 Kyro::ErrorStatus KyDbMLeaderStyle::setTextStyleId(KyDbObjectId value) {

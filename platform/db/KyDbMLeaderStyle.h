@@ -1,5 +1,6 @@
 // KyDbMLeaderStyle: a multileader style: its name and the text
-// style of its text.
+// style of its text. The style "Standard" of a drawing can't be renamed or
+// erased.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -17,10 +18,13 @@ public:
     Kyro::ErrorStatus setTextStyleId(KyDbObjectId value);
 
 protected:
+    Kyro::ErrorStatus subErase(bool erasing) override;
     void subSaveState(KyDbStateFiler& filer) const override;
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
 
 private:
+    // True for a name that a drawing keeps as it is.
+    bool hasFixedName() const;
     KyString m_name;
     KyDbObjectId m_textStyle;
 };

@@ -1,6 +1,7 @@
 #include "db/KyDbMaterial.h"
 
 #include "db/KyDbClassSupport.h"
+#include "db/KyDbStandardContent.h"
 #include "db/KyDbStateFiler.h"
 
 namespace {
@@ -20,11 +21,26 @@ KyDbMaterial::KyDbMaterial() = default;
 
 KyDbMaterial::~KyDbMaterial() = default;
 
+bool KyDbMaterial::hasFixedName() const {
+    return KyDbStandardContent::isStandardMaterial(m_name);
+}
+
 Kyro::ErrorStatus KyDbMaterial::setName(const wchar_t* value) {
     if (value == nullptr || value[0] == L'\0') {
         return Kyro::eInvalidInput;
     }
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    // One being made or read takes any name; in a drawing the name stays.
+    if (isDatabaseResident() && hasFixedName() && m_name.compare(value) != 0) {
+        return Kyro::eCannotBeRenamed;
+    }
     return setMember(m_name, KyString(value));
+}
+
+Kyro::ErrorStatus KyDbMaterial::subErase(bool erasing) {
+    return erasing && hasFixedName() ? Kyro::eCannotBeErasedByCaller : Kyro::eOk;
 }
 
 Kyro::ErrorStatus KyDbMaterial::setDescription(const wchar_t* value) {

@@ -1,5 +1,5 @@
 // KyDbMaterial: a material. The standard ones are "ByLayer",
-// "ByBlock" and "Global".
+// "ByBlock" and "Global": in a drawing they can't be renamed or erased.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -17,10 +17,13 @@ public:
     Kyro::ErrorStatus setDescription(const wchar_t* value);
 
 protected:
+    Kyro::ErrorStatus subErase(bool erasing) override;
     void subSaveState(KyDbStateFiler& filer) const override;
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
 
 private:
+    // True for a name that a drawing keeps as it is.
+    bool hasFixedName() const;
     KyString m_name;
     KyString m_description;
 };

@@ -1,5 +1,6 @@
 // KyDbModelDocViewStyle: what section and detail view styles share: a
-// name and a description.
+// name and a description. The style "Standard" of a drawing can't be
+// renamed or erased.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -16,11 +17,14 @@ public:
     Kyro::ErrorStatus setDescription(const wchar_t* value);
 
 protected:
+    Kyro::ErrorStatus subErase(bool erasing) override;
     KyDbModelDocViewStyle();
     void subSaveState(KyDbStateFiler& filer) const override;
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
 
 private:
+    // True for a name that a drawing keeps as it is.
+    bool hasFixedName() const;
     KyString m_name;
     KyString m_description;
 };

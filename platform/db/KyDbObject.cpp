@@ -181,6 +181,9 @@ Kyro::ErrorStatus KyDbObject::erase(bool erasing) {
     if (erasing == isErased()) {
         return erasing ? Kyro::eWasErased : Kyro::eWasNotErased;
     }
+    if (erasing && m_stub->database != nullptr && m_stub->database->isCurrentItem(objectId())) {
+        return Kyro::eCannotBeErasedByCaller;
+    }
     return KyDbObjectAccess::setErased(this, erasing, true, true);
 }
 

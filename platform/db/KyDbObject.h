@@ -28,6 +28,11 @@
 // - The close (or downgradeOpen) of a write-open that changed the object (an
 //   erase counts as a change): modified, then objectModified, while the
 //   object is still open; then, once it is closed, objectClosed(id).
+// - An erase or unerase of an entry of a dictionary, by erase(), undo or
+//   redo, changes the dictionary: right after the entry's erased and
+//   objectErased, the dictionary's reactors hear modified (database reactors
+//   objectModified), then objectClosed(dictionary id). A dictionary open for
+//   write then counts as changed and tells them at its close.
 // - An append: objectAppended, with the new object open for write.
 // - Undo or redo of a change: modifyUndone, then the close notifications as
 //   above. An undone erase is an unerase and a redone one an erase, told as
@@ -102,8 +107,10 @@ public:
     Kyro::ErrorStatus assertWriteEnabled();
 
     // Erases (true) or unerases (false). Needs a write-open; answers
-    // eWasErased / eWasNotErased when there is nothing to do, and the status
-    // of the class's own refusal (a standard record, a taken name).
+    // eWasErased / eWasNotErased when there is nothing to do,
+    // eCannotBeErasedByCaller for what a header variable holds as current
+    // (the current layer, text style, table style, material ...), and the
+    // status of the class's own refusal (a standard record, a taken name).
     Kyro::ErrorStatus erase(bool erasing = true);
     bool isErased() const;
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "db/KyDbDictionary.h"
 #include "db/KyDbOpenObject.h"
 #include "db/KyDbStubArena.h"
 #include "db/KyDbUndoController.h"
@@ -260,7 +261,33 @@ Kyro::ErrorStatus KyDbObjectAccess::setErased(KyDbObject* object, bool erasing, 
     tellDatabaseReactors(database, [database, object, erasing](KyDbDatabaseReactor* reactor) {
         reactor->objectErased(database, object, erasing);
     });
+    tellDictionaryOfEntry(object);
     return Kyro::eOk;
+}
+
+void KyDbObjectAccess::tellDictionaryOfEntry(KyDbObject* entry) {
+    const KyDbStub* ownerStub = entry->m_ownerId.stub();
+    KyDbDictionary* dictionary =
+        ownerStub != nullptr ? kyrxCast<KyDbDictionary>(ownerStub->object) : nullptr;
+    // An object taken out of a dictionary keeps it as its owner.
+    if (dictionary == nullptr || !dictionary->holds(entry->objectId())) {
+        return;
+    }
+    if (dictionary->m_writer) {
+        // With a before-image: what its opener changes after this is undone
+        // with the rest.
+        if ((dictionary->m_flags & KyDbObject::kChanged) == 0) {
+            startChange(dictionary);
+        }
+        return;
+    }
+    KyDbDatabase* database = dictionary->m_stub->database;
+    tellObjectReactors(dictionary, [dictionary](auto* reactor) { reactor->modified(dictionary); });
+    tellDatabaseReactors(database, [database, dictionary](KyDbDatabaseReactor* reactor) {
+        reactor->objectModified(database, dictionary);
+    });
+    const KyDbObjectId id = dictionary->objectId();
+    tellObjectReactors(dictionary, [id](auto* reactor) { reactor->objectClosed(id); });
 }
 
 void KyDbObjectAccess::setRestoring(KyDbObject* object, bool restoring) {

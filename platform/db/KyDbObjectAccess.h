@@ -80,6 +80,11 @@ public:
     // tells the reactors.
     static Kyro::ErrorStatus setErased(KyDbObject* object, bool erasing, bool askClass,
                                        bool record);
+    // An object erased or unerased that is an entry of a dictionary changes
+    // what the dictionary holds. A dictionary open for write counts as
+    // changed, and its close tells it; otherwise its reactors hear modified
+    // (and the database reactors objectModified), then objectClosed, at once.
+    static void tellDictionaryOfEntry(KyDbObject* entry);
     // While undo restores an object, its changes take no before-image and
     // tell no openedForModify.
     static void setRestoring(KyDbObject* object, bool restoring);

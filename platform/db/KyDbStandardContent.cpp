@@ -338,6 +338,26 @@ void addHeader(Builder& build, KyDbDatabase* db) {
 
 }  // namespace
 
+bool KyDbStandardContent::isStandardMaterial(const wchar_t* name) {
+    const KyString text(name);
+    for (const wchar_t* standard : {kByLayer, kByBlock, kGlobal}) {
+        if (text.compareNoCase(standard) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool KyDbStandardContent::isStandardVisualStyle(const wchar_t* name) {
+    const KyString text(name);
+    for (const VisualStyleRow& row : kVisualStyles) {
+        if (text.compareNoCase(row.name) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
 Kyro::ErrorStatus KyDbStandardContent::add(KyDbDatabase* database, unsigned parts) {
     if (database == nullptr) {
         return Kyro::eNullObjectPointer;

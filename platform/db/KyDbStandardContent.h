@@ -36,6 +36,11 @@ public:
     // a file left out. The status of the first write that fails.
     static Kyro::ErrorStatus add(KyDbDatabase* database, unsigned parts);
 
+    // True for ByLayer, ByBlock and Global, in any case.
+    static bool isStandardMaterial(const wchar_t* name);
+    // True for the name of a visual style a new drawing holds, in any case.
+    static bool isStandardVisualStyle(const wchar_t* name);
+
     // Names the database and its users rely on.
     static const wchar_t* const kLayerZero;
     static const wchar_t* const kByBlock;

@@ -119,12 +119,7 @@ Kyro::ErrorStatus KyDbSymbolTableRecord::subRestoreState(KyDbStateFiler& filer) 
 }
 
 Kyro::ErrorStatus KyDbSymbolTableRecord::subErase(bool erasing) {
-    if (erasing) {
-        const KyDbDatabase* db = database();
-        if (db != nullptr && db->isCurrentItem(objectId())) {
-            return Kyro::eCannotBeErasedByCaller;
-        }
-    } else {
+    if (!erasing) {
         if (KyDbSymbolTable* table = ownerTable(); table != nullptr) {
             const KyDbObjectId holder = table->liveRecord(m_name);
             if (!holder.isNull() && holder != objectId()) {

@@ -1,6 +1,7 @@
 #include "db/KyDbTableStyle.h"
 
 #include "db/KyDbClassSupport.h"
+#include "db/KyDbStandardContent.h"
 #include "db/KyDbStateFiler.h"
 
 namespace {
@@ -24,11 +25,26 @@ KyDbTableStyle::KyDbTableStyle() {
 
 KyDbTableStyle::~KyDbTableStyle() = default;
 
+bool KyDbTableStyle::hasFixedName() const {
+    return m_name.compareNoCase(KyDbStandardContent::kStandard) == 0;
+}
+
 Kyro::ErrorStatus KyDbTableStyle::setName(const wchar_t* value) {
     if (value == nullptr || value[0] == L'\0') {
         return Kyro::eInvalidInput;
     }
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    // One being made or read takes any name; in a drawing the name stays.
+    if (isDatabaseResident() && hasFixedName() && m_name.compare(value) != 0) {
+        return Kyro::eCannotBeRenamed;
+    }
     return setMember(m_name, KyString(value));
+}
+
+Kyro::ErrorStatus KyDbTableStyle::subErase(bool erasing) {
+    return erasing && hasFixedName() ? Kyro::eCannotBeErasedByCaller : Kyro::eOk;
 }
 
 Kyro::ErrorStatus KyDbTableStyle::setCellStyles(const KyStringArray& value) {

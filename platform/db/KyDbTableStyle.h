@@ -1,5 +1,6 @@
 // KyDbTableStyle: a table style: its name and the names of its
-// cell styles ("Title", "Header", "Data" for a new one).
+// cell styles ("Title", "Header", "Data" for a new one). The style "Standard"
+// of a drawing can't be renamed or erased.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -20,10 +21,13 @@ public:
     bool hasCellStyle(const wchar_t* name) const;
 
 protected:
+    Kyro::ErrorStatus subErase(bool erasing) override;
     void subSaveState(KyDbStateFiler& filer) const override;
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
 
 private:
+    // True for a name that a drawing keeps as it is.
+    bool hasFixedName() const;
     KyString m_name;
     KyStringArray m_cellStyles;
 };

@@ -1,6 +1,7 @@
 #include "db/KyDbTextStyleTableRecord.h"
 
 #include "db/KyDbClassSupport.h"
+#include "db/KyDbStandardContent.h"
 #include "db/KyDbStateFiler.h"
 
 namespace {
@@ -51,6 +52,20 @@ Kyro::ErrorStatus KyDbTextStyleTableRecord::setXScale(double widthFactor) {
 
 Kyro::ErrorStatus KyDbTextStyleTableRecord::setObliquingAngle(double degrees) {
     return setMember(m_obliquingAngle, degrees);
+}
+
+Kyro::ErrorStatus KyDbTextStyleTableRecord::subCheckRename(const wchar_t* newName) const {
+    if (name().compareNoCase(KyDbStandardContent::kStandard) == 0) {
+        return Kyro::eCannotBeRenamed;
+    }
+    return KyDbSymbolTableRecord::subCheckRename(newName);
+}
+
+Kyro::ErrorStatus KyDbTextStyleTableRecord::subErase(bool erasing) {
+    if (erasing && name().compareNoCase(KyDbStandardContent::kStandard) == 0) {
+        return Kyro::eCannotBeErasedByCaller;
+    }
+    return KyDbSymbolTableRecord::subErase(erasing);
 }
 
 void KyDbTextStyleTableRecord::subSaveState(KyDbStateFiler& filer) const {

@@ -1,5 +1,6 @@
 // KyDbTextStyleTableRecord: a text style: its font files, a fixed height (0
-// for none), a width factor and an obliquing angle in degrees.
+// for none), a width factor and an obliquing angle in degrees. "Standard"
+// can't be renamed or erased.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -25,6 +26,8 @@ public:
     Kyro::ErrorStatus setObliquingAngle(double degrees);
 
 protected:
+    Kyro::ErrorStatus subCheckRename(const wchar_t* newName) const override;
+    Kyro::ErrorStatus subErase(bool erasing) override;
     void subSaveState(KyDbStateFiler& filer) const override;
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
 

@@ -1,6 +1,7 @@
 #include "db/KyDbVisualStyle.h"
 
 #include "db/KyDbClassSupport.h"
+#include "db/KyDbStandardContent.h"
 #include "db/KyDbStateFiler.h"
 
 namespace {
@@ -23,11 +24,26 @@ KyDbVisualStyle::KyDbVisualStyle() = default;
 
 KyDbVisualStyle::~KyDbVisualStyle() = default;
 
+bool KyDbVisualStyle::hasFixedName() const {
+    return KyDbStandardContent::isStandardVisualStyle(m_name);
+}
+
 Kyro::ErrorStatus KyDbVisualStyle::setName(const wchar_t* value) {
     if (value == nullptr || value[0] == L'\0') {
         return Kyro::eInvalidInput;
     }
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    // One being made or read takes any name; in a drawing the name stays.
+    if (isDatabaseResident() && hasFixedName() && m_name.compare(value) != 0) {
+        return Kyro::eCannotBeRenamed;
+    }
     return setMember(m_name, KyString(value));
+}
+
+Kyro::ErrorStatus KyDbVisualStyle::subErase(bool erasing) {
+    return erasing && hasFixedName() ? Kyro::eCannotBeErasedByCaller : Kyro::eOk;
 }
 
 Kyro::ErrorStatus KyDbVisualStyle::setType(int value) {

@@ -1,5 +1,6 @@
 // KyDbVisualStyle: a visual style: its name, its kind (the
-// host's classification) and whether it is for internal use only.
+// host's classification) and whether it is for internal use only. The
+// standard visual styles of a drawing can't be renamed or erased.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -19,10 +20,13 @@ public:
     Kyro::ErrorStatus setInternalUseOnly(bool value);
 
 protected:
+    Kyro::ErrorStatus subErase(bool erasing) override;
     void subSaveState(KyDbStateFiler& filer) const override;
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
 
 private:
+    // True for a name that a drawing keeps as it is.
+    bool hasFixedName() const;
     KyString m_name;
     int m_kind = 0;
     bool m_internal = false;

@@ -144,6 +144,11 @@ TEST_F(Program, DocumentsOpenSwitchAndCloseWithTheHostsEvents) {
     EXPECT_TRUE(fs::exists(folder / "drawing1.kyd"));
 }
 
+TEST_F(Program, ABatchRunsBetweenBusyAndQuietAndTheSystemReportsWhenTheDocumentIsQuiet) {
+    fs::copy_file(fs::path(KYDI_TEST_SCRIPTS) / "layers.batch", folder / "layers.batch");
+    expectScript("batch", 0);
+}
+
 TEST_F(Program, TheManualClockHoldsRefreshesBackUntilItMovesPastTheThrottle) {
     expectScript("clock", 0);
 }

@@ -1,5 +1,6 @@
 // Dictionaries: entries in the order they were put in, keys without regard to
-// case, replacement, removal, hidden erased entries, nesting, renaming, undo.
+// case, replacement, removal, hidden erased entries, nesting, renaming, undo,
+// and the change an entry's erase makes to its dictionary.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -178,6 +179,87 @@ TEST_F(DictionaryTest, UndoOfAPutTakesTheEntryOutAndErasesItsObject) {
     EXPECT_EQ(entries(), (Lines{"Zinc=zinc", "Oak=oak"}));
     KyDbObjectPointer<KyDbObject> dictionary(dictionaryId, KyDb::kForNotify);
     dictionary->removeReactor(&spy);
+}
+
+// An entry's erase, unerase, undo and redo each change what the dictionary
+// shows: its reactors hear modified and objectClosed right after the entry's
+// erased, before the entry's own close.
+TEST_F(DictionaryTest, AnEntryErasedOrBroughtBackChangesItsDictionaryAtOnce) {
+    put(L"Zinc", L"zinc");
+    const KyDbObjectId oak = put(L"Oak", L"oak");
+    ObjectSpy dictionarySpy(log, "dictionary ");
+    ObjectSpy entrySpy(log, "entry ");
+    DatabaseSpy databaseSpy(log);
+    watch(dictionaryId, &dictionarySpy);
+    watch(oak, &entrySpy);
+    db->addReactor(&databaseSpy);
+    const Lines erase = {
+        "entry openedForModify KyDbMaterial",     "db.objectOpenedForModify KyDbMaterial",
+        "entry erased(true) KyDbMaterial",        "db.objectErased(true) KyDbMaterial",
+        "dictionary modified KyDbDictionary",     "db.objectModified KyDbDictionary",
+        "dictionary objectClosed KyDbDictionary", "entry modified KyDbMaterial",
+        "db.objectModified KyDbMaterial",         "entry objectClosed KyDbMaterial"};
+
+    undo()->beginUndoGroup();
+    ASSERT_EQ(setErased(oak, true), Kyro::eOk);
+    undo()->endUndoGroup();
+    EXPECT_EQ(log.lines(), erase);
+    EXPECT_EQ(entries(), (Lines{"Zinc=zinc"}));
+    log.clear();
+
+    ASSERT_EQ(undo()->undo(), Kyro::eOk);
+    EXPECT_EQ(log.lines(),
+              (Lines{"entry erased(false) KyDbMaterial", "db.objectErased(false) KyDbMaterial",
+                     "dictionary modified KyDbDictionary", "db.objectModified KyDbDictionary",
+                     "dictionary objectClosed KyDbDictionary", "entry modified KyDbMaterial",
+                     "db.objectModified KyDbMaterial", "entry objectClosed KyDbMaterial"}));
+    EXPECT_EQ(entries(), (Lines{"Zinc=zinc", "Oak=oak"}));
+    log.clear();
+
+    ASSERT_EQ(undo()->redo(), Kyro::eOk);
+    EXPECT_EQ(log.lines(),
+              (Lines{"entry erased(true) KyDbMaterial", "db.objectErased(true) KyDbMaterial",
+                     "dictionary modified KyDbDictionary", "db.objectModified KyDbDictionary",
+                     "dictionary objectClosed KyDbDictionary", "entry modified KyDbMaterial",
+                     "db.objectModified KyDbMaterial", "entry objectClosed KyDbMaterial"}));
+    EXPECT_EQ(entries(), (Lines{"Zinc=zinc"}));
+    log.clear();
+
+    ASSERT_EQ(setErased(oak, false), Kyro::eOk);
+    EXPECT_EQ(log.lines(),
+              (Lines{"entry openedForModify KyDbMaterial", "db.objectOpenedForModify KyDbMaterial",
+                     "entry erased(false) KyDbMaterial", "db.objectErased(false) KyDbMaterial",
+                     "dictionary modified KyDbDictionary", "db.objectModified KyDbDictionary",
+                     "dictionary objectClosed KyDbDictionary", "entry modified KyDbMaterial",
+                     "db.objectModified KyDbMaterial", "entry objectClosed KyDbMaterial"}));
+    EXPECT_EQ(entries(), (Lines{"Zinc=zinc", "Oak=oak"}));
+    db->removeReactor(&databaseSpy);
+}
+
+// A dictionary open for write while an entry of it is erased tells the
+// change once, at its own close; an object taken out of the dictionary
+// changes it no more.
+TEST_F(DictionaryTest, ADictionaryOpenForWriteTellsAnEntrysEraseAtItsClose) {
+    const KyDbObjectId zinc = put(L"Zinc", L"zinc");
+    const KyDbObjectId oak = put(L"Oak", L"oak");
+    ObjectSpy dictionarySpy(log, "dictionary ");
+    watch(dictionaryId, &dictionarySpy);
+    {
+        KyDbObjectPointer<KyDbDictionary> dictionary(dictionaryId, KyDb::kForWrite);
+        ASSERT_EQ(setErased(oak, true), Kyro::eOk);
+        EXPECT_EQ(log.lines(), (Lines{"dictionary openedForModify KyDbDictionary"}));
+        EXPECT_EQ(dictionary->numEntries(), 1);
+        log.clear();
+    }
+    EXPECT_EQ(log.lines(), (Lines{"dictionary modified KyDbDictionary",
+                                  "dictionary objectClosed KyDbDictionary"}));
+    {
+        KyDbObjectPointer<KyDbDictionary> dictionary(dictionaryId, KyDb::kForWrite);
+        ASSERT_EQ(dictionary->remove(zinc), Kyro::eOk);
+    }
+    log.clear();
+    ASSERT_EQ(setErased(zinc, true), Kyro::eOk);
+    EXPECT_EQ(log.lines(), Lines{});
 }
 
 TEST_F(DictionaryTest, ADictionaryWithADefaultNamesOneOfItsEntries) {
