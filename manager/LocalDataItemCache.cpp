@@ -1,6 +1,8 @@
 #include "manager/LocalDataItemCache.h"
 
 #include "kydi/KyDiDbItem.h"
+#include "kydi/KyDiObservableCollection.h"
+#include "manager/KyDiManagerState.h"
 #include "manager/host/KyDiHostAccess.h"
 #include "rx/KyRxValue.h"
 
@@ -141,7 +143,14 @@ void LocalDataItemCache::endOfRefresh() {
             const std::set<KyDiDbItem*> erased = std::move(table.erasedItems);
             table.erasedItems.clear();
             for (KyDiDbItem* item : erased) {
-                discardItem(table, item);
+                // A collection that has not let go of the item yet (its
+                // refill was dropped while the host was busy) still shows
+                // it: the item waits for a later pass.
+                if (isHeldByCollection(item)) {
+                    table.erasedItems.insert(item);
+                } else {
+                    discardItem(table, item);
+                }
             }
         }
         return;
@@ -150,6 +159,25 @@ void LocalDataItemCache::endOfRefresh() {
     if (document != kKyDiNoDocument && KyDiHostAccess::databaseOf(document) != nullptr) {
         m_lastDocument = document;
     }
+}
+
+bool LocalDataItemCache::isHeldByCollection(const KyDiDynamicObject* item) {
+    const KyDiManagerState& state = kydiManagerState();
+    auto holds = [item](const KyDiObservableCollection* collection) {
+        const KyDiItemArray& items = collection->getItems();
+        return items.contains(const_cast<KyDiDynamicObject*>(item));
+    };
+    for (const auto& [name, collection] : state.knownCollections) {
+        if (holds(collection)) {
+            return true;
+        }
+    }
+    for (const KyDiObservableCollection* collection : state.replacedCollections) {
+        if (holds(collection)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool LocalDataItemCache::discardItem(ItemTable& table, KyDiDbItem* item) {

@@ -19,6 +19,7 @@
 #include "manager/ItemTable.h"
 
 class KyDiDbItem;
+class KyDiDynamicObject;
 class KyDiItem;
 class KyRxValue;
 class KyRxValueType;
@@ -70,6 +71,8 @@ private:
     using TableMap = std::map<KyDiDocument, ItemTable*>;
 
     static bool discardItem(ItemTable& table, KyDiDbItem* item);
+    // Whether a known collection still lists the item.
+    static bool isHeldByCollection(const KyDiDynamicObject* item);
     ItemTable* tableOf(KyDbObjectId id) const;
 
     TableMap m_documents;
