@@ -32,12 +32,17 @@ TEST_F(DictionaryCollections, EntriesThatComeAndGoAreToldAndTheCurrentOneIsWritt
     pass();
     EXPECT_EQ(spy.take(), (Lines{"currentItemChanged Brick"}));
 
+    // The current material can't be erased; another one can.
+    const KyDbObjectId stone = addMaterial(L"Stone");
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"itemsChanged added=[Stone] removed=[]"}));
+    materials->setCurrentItem(materials->getItems().last());
     erase(brick);
     pass();
     EXPECT_EQ(spy.take(),
-              (Lines{"itemsChanged added=[] removed=[Brick]", "currentItemChanged null"}))
-        << "the current material went with its entry";
-    EXPECT_EQ(names(materials), before);
+              (Lines{"itemsChanged added=[] removed=[Brick]", "currentItemChanged Stone"}));
+    EXPECT_EQ(db()->cmaterial(), stone);
+    EXPECT_EQ(names(materials).size(), before.size() + 1);
     checker.expectInStep();
 }
 
