@@ -5,6 +5,8 @@
 // while it is told.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
 
 #include "KyRefDocument.h"
@@ -121,6 +123,37 @@ TEST_F(Documents, AReactorMayLeaveOrTakeAnotherOffWhileItIsTold) {
     pass();
     EXPECT_EQ(lines, (std::vector<std::string>{"taker"}));
     linetypes->removeReactor(&taker);
+}
+
+}  // namespace
+
+namespace {
+
+using kytest::CollectionSpy;
+using kytest::ContractChecker;
+using Lines = std::vector<std::string>;
+
+class Batches : public kytest::CollectionFixture {};
+
+TEST_F(Batches, WhatIsPendingWhenABatchStartsIsDroppedAndWhatItChangesIsToldAtItsEnd) {
+    KyDiObservableCollection* linetypes = known(L"LINETYPE");
+    const KyDbObjectId dashed = addLinetype(L"Dashed");
+    pass();
+    ContractChecker checker(linetypes, "LINETYPE");
+    CollectionSpy spy(linetypes);
+    // Pending, and held back by the throttle: the batch starts with it.
+    describe(dashed, L"- -");
+    const std::filesystem::path file = std::filesystem::temp_directory_path() /
+                                       ("kydi-batch-" + std::to_string(getpid()) + ".txt");
+    {
+        std::ofstream batch(file);
+        batch << "RECORD\n_New\nLINETYPE\nDotted\n";
+    }
+    type((L"BATCH\n" + file.wstring() + L"\n").c_str());
+    std::filesystem::remove(file);
+    EXPECT_EQ(spy.take(), (Lines{"itemsChanged added=[Dotted] removed=[]"}))
+        << "told when the batch ends; the change before it is not";
+    checker.expectInStep();
 }
 
 }  // namespace
