@@ -125,7 +125,17 @@ void KyDiImpCollectionBase::subMergeItems(KyDiItemArray& added, KyDiItemArray& r
     mergeByIdentity(added, removed, modified, newItems);
 }
 
+int KyDiImpCollectionBase::s_updatesRunning = 0;
+
 void KyDiImpCollectionBase::update() {
+    // While an update runs, its removed items are alive for its reactors: a
+    // pass that a reactor forces must not let the item cache free them.
+    struct Running {
+        Running() { ++s_updatesRunning; }
+        ~Running() { --s_updatesRunning; }
+        Running(const Running&) = delete;
+        Running& operator=(const Running&) = delete;
+    } running;
     KyDiItemArray added(0, 8);
     KyDiItemArray removed(0, 8);
     KyDiItemArray modified(0, 8);
@@ -203,6 +213,10 @@ unsigned KyDiImpCollectionBase::refreshItems(KyDiItemArray& added, KyDiItemArray
         }
         subMergeItems(added, removed, modified, newItems);
         subApplyItemChanges(added, removed, modified);
+        // The current item left the list: the tracker is asked again.
+        if (removed.contains(m_currentItem)) {
+            m_pendingFlags |= kCurrencyPending;
+        }
     }
     subCollectModified(modified);
     m_previousCurrentItem = m_currentItem;

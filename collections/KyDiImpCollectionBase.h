@@ -103,6 +103,9 @@ public:
     virtual unsigned subFilterChangeBits(unsigned bits);
     virtual void subSelectionRefreshed(const std::set<KyDiDbItem*>& erased);
 
+    // Whether any collection is in the middle of an update.
+    static bool isAnyUpdateRunning() { return s_updatesRunning > 0; }
+
     // The fill of a new collection: binds it to `document` and fills from it,
     // telling nobody.
     void bindToDocument(KyDiDocument document);
@@ -134,6 +137,8 @@ private:
     static bool isValidBinding(KyDiDocument document) {
         return document != kKyDiNoDocument && document != kKyDiUnboundDocument;
     }
+
+    static int s_updatesRunning;
 
     KyString m_name;
     KyDiCurrencyTracker* m_tracker = nullptr;

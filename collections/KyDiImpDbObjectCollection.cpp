@@ -152,7 +152,15 @@ bool KyDiImpDbObjectCollection::detachFrom(KyDbObjectId id, const KyDbObject* cl
 bool KyDiImpDbObjectCollection::subFill(bool initial, KyDbDatabase* db, KyDiItemArray& list,
                                         void** context) {
     KyArray<KyDbObjectId> erased(0, 8);
-    const bool filled = subFillFromDatabase(initial, db, m_ownerId, list, erased, context);
+    KyDbObjectId owner;
+    bool filled = subFillFromDatabase(initial, db, owner, list, erased, context);
+    if (initial) {
+        m_ownerId = owner;
+    } else if (owner != m_ownerId) {
+        // The list's owner itself changed (its dictionary was replaced or
+        // went): a reset lets go of the old one and listens to the new one.
+        filled = false;
+    }
     if (filled) {
         for (int i = 0; i < erased.length(); ++i) {
             if (!m_watchedErased.contains(erased[i])) {

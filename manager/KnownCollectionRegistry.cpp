@@ -97,7 +97,8 @@ KyDiObservableCollection* KnownCollectionRegistry::getKnownCollection(
             // The collection it replaces stays alive, out of reach by name.
             state.replacedCollections.push_back(std::exchange(entry->second, collection));
         }
-        bodyOf(collection)->bindToDocument(KyDiHostAccess::rawCurrentDocument());
+        // A document being destroyed counts as none: nothing binds to it.
+        bodyOf(collection)->bindToDocument(KyDiHostAccess::currentDocument());
     }
     // Here comes the effective property, bound to the current document.
     return collection;

@@ -1,5 +1,6 @@
 #include "manager/LocalDataItemCache.h"
 
+#include "collections/KyDiImpCollectionBase.h"
 #include "kydi/KyDiDbItem.h"
 #include "kydi/KyDiObservableCollection.h"
 #include "manager/KyDiManagerState.h"
@@ -138,7 +139,10 @@ void LocalDataItemCache::endOfRefresh() {
     const KyDiDocument document = KyDiHostAccess::currentDocument();
     if (document == m_lastDocument) {
         const auto found = m_documents.find(document);
-        if (found != m_documents.end() && !found->second->erasedItems.empty()) {
+        // A pass forced from inside an update leaves the erased items to the
+        // pass around it: that update's reactors still hold them.
+        if (found != m_documents.end() && !found->second->erasedItems.empty() &&
+            !KyDiImpCollectionBase::isAnyUpdateRunning()) {
             ItemTable& table = *found->second;
             const std::set<KyDiDbItem*> erased = std::move(table.erasedItems);
             table.erasedItems.clear();
@@ -168,7 +172,7 @@ bool LocalDataItemCache::isHeldByCollection(const KyDiDynamicObject* item) {
         return items.contains(const_cast<KyDiDynamicObject*>(item));
     };
     for (const auto& [name, collection] : state.knownCollections) {
-        if (holds(collection)) {
+        if (holds(collection) || collection->getCurrentItem() == item) {
             return true;
         }
     }

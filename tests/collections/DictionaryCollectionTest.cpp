@@ -3,7 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "collections/CollectionFixture.h"
+#include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
+#include "db/KyDbDictionary.h"
+#include "db/KyDbObjectPointer.h"
+#include "kydi/KyDiFunctions.h"
 
 namespace {
 
@@ -43,6 +47,43 @@ TEST_F(DictionaryCollections, EntriesThatComeAndGoAreToldAndTheCurrentOneIsWritt
               (Lines{"itemsChanged added=[] removed=[Brick]", "currentItemChanged Stone"}));
     EXPECT_EQ(db()->cmaterial(), stone);
     EXPECT_EQ(names(materials).size(), before.size() + 1);
+    checker.expectInStep();
+}
+
+}  // namespace
+
+namespace {
+
+using kytest::CollectionSpy;
+using kytest::ContractChecker;
+using Lines = std::vector<std::string>;
+
+class ReplacedDictionaries : public kytest::CollectionFixture {};
+
+TEST_F(ReplacedDictionaries, ADictionaryReplacedUnderItsKeyResetsTheListFromTheNewOne) {
+    KyDiObservableCollection* materials = known(L"KYRO_MATERIAL");
+    pass();
+    ContractChecker checker(materials, "KYRO_MATERIAL");
+    CollectionSpy spy(materials);
+    {
+        // The materials' key now names another, empty dictionary.
+        const KyAxDocLock lock(db());
+        KyDbObjectPointer<KyDbDictionary> named(db()->namedObjectsDictionaryId(), KyDb::kForWrite);
+        KyDbObjectId replacedId;
+        ASSERT_EQ(named->remove(L"KYRO_MATERIAL", replacedId), Kyro::eOk);
+        auto* fresh = new KyDbDictionary();
+        KyDbObjectId freshId;
+        ASSERT_EQ(named->setAt(L"KYRO_MATERIAL", fresh, freshId), Kyro::eOk);
+        fresh->close();
+    }
+    KyDiNotifyCollectionModified(L"KYRO_MATERIAL");
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"collectionReset", "currentItemChanged null"}));
+    EXPECT_TRUE(materials->getItems().isEmpty());
+    // The new dictionary is heard: an entry added to it is told.
+    addMaterial(L"Brick");
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"itemsChanged added=[Brick] removed=[]"}));
     checker.expectInStep();
 }
 

@@ -157,3 +157,60 @@ TEST_F(Batches, WhatIsPendingWhenABatchStartsIsDroppedAndWhatItChangesIsToldAtIt
 }
 
 }  // namespace
+
+namespace {
+
+using kytest::CollectionSpy;
+using kytest::ContractChecker;
+using Lines = std::vector<std::string>;
+
+// Forces a pass from inside the report of a removal, and reads the removed
+// items afterwards.
+class NestedRefresher : public KyDiCollectionReactor {
+public:
+    void itemsChanged(const KyDiItemArray&, const KyDiItemArray& removed) override {
+        KyDiManager::refresh();
+        for (int i = 0; i < removed.length(); ++i) {
+            names.push_back(kytest::itemName(removed[i]));
+        }
+    }
+    std::vector<std::string> names;
+};
+
+class Nesting : public kytest::CollectionFixture {};
+
+TEST_F(Nesting, APassForcedWhileARemovalIsToldLeavesTheRemovedItemsAlive) {
+    KyDiObservableCollection* linetypes = known(L"LINETYPE");
+    const KyDbObjectId dashed = addLinetype(L"Dashed");
+    pass();
+    NestedRefresher nested;
+    linetypes->addReactor(&nested);
+    ContractChecker checker(linetypes, "LINETYPE");
+    erase(dashed);
+    pass();
+    linetypes->removeReactor(&nested);
+    EXPECT_EQ(nested.names, (std::vector<std::string>{"Dashed"}));
+    checker.expectInStep();
+}
+
+TEST_F(Nesting, ACollectionMadeWhileItsDocumentIsDestroyedIsBoundToNone) {
+    struct MakeOnReset : KyDiCollectionReactor {
+        void collectionReset() override {
+            if (made == nullptr) {
+                made = KyDiManager::getKnownCollection(L"TEXTSTYLE");
+            }
+        }
+        KyDiObservableCollection* made = nullptr;
+    } maker;
+    KyDiObservableCollection* linetypes = known(L"LINETYPE");
+    pass();
+    linetypes->addReactor(&maker);
+    host.documents().closeDocument(host.documents().current());
+    linetypes->removeReactor(&maker);
+    ASSERT_NE(maker.made, nullptr);
+    EXPECT_FALSE(maker.made->isActive());
+    EXPECT_TRUE(maker.made->getItems().isEmpty());
+    host.documents().releaseClosedDocuments();
+}
+
+}  // namespace

@@ -94,6 +94,10 @@ public:
         EXPECT_EQ(m_items, snapshot()) << m_name << ": the items changed without a report";
         EXPECT_EQ(m_current, m_collection->getCurrentItem())
             << m_name << ": the current item changed without a report";
+        const std::vector<KyDiDynamicObject*> items = snapshot();
+        EXPECT_TRUE(m_current == nullptr ||
+                    std::find(items.begin(), items.end(), m_current) != items.end())
+            << m_name << ": the current item is no item";
     }
     int notifications() const { return m_count; }
 
