@@ -50,14 +50,6 @@ TEST_F(DictionaryCollections, EntriesThatComeAndGoAreToldAndTheCurrentOneIsWritt
     checker.expectInStep();
 }
 
-}  // namespace
-
-namespace {
-
-using kytest::CollectionSpy;
-using kytest::ContractChecker;
-using Lines = std::vector<std::string>;
-
 class ReplacedDictionaries : public kytest::CollectionFixture {};
 
 TEST_F(ReplacedDictionaries, ADictionaryReplacedUnderItsKeyResetsTheListFromTheNewOne) {

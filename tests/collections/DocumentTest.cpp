@@ -125,14 +125,6 @@ TEST_F(Documents, AReactorMayLeaveOrTakeAnotherOffWhileItIsTold) {
     linetypes->removeReactor(&taker);
 }
 
-}  // namespace
-
-namespace {
-
-using kytest::CollectionSpy;
-using kytest::ContractChecker;
-using Lines = std::vector<std::string>;
-
 class Batches : public kytest::CollectionFixture {};
 
 TEST_F(Batches, WhatIsPendingWhenABatchStartsIsDroppedAndWhatItChangesIsToldAtItsEnd) {
@@ -155,14 +147,6 @@ TEST_F(Batches, WhatIsPendingWhenABatchStartsIsDroppedAndWhatItChangesIsToldAtIt
         << "told when the batch ends; the change before it is not";
     checker.expectInStep();
 }
-
-}  // namespace
-
-namespace {
-
-using kytest::CollectionSpy;
-using kytest::ContractChecker;
-using Lines = std::vector<std::string>;
 
 // Forces a pass from inside the report of a removal, and reads the removed
 // items afterwards.
