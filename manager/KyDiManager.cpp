@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include "contexts/KyDiContextBase.h"
+#include "contexts/KyDiContextManagerImp.h"
+#include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiDataItemReactor.h"
 #include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiHost.h"
@@ -39,6 +42,31 @@ void removeFrom(KyArray<Reactor*>& reactors, Reactor* reactor) {
     if (reactor != nullptr) {
         reactors.remove(reactor);
     }
+}
+
+// The built contexts end, leave the manager and go; then the manager goes.
+// The list of built contexts keeps its length: nothing walks it afterwards.
+void releaseContexts() {
+    KyDiManagerState& state = kydiManagerState();
+    if (state.contextManager == nullptr) {
+        return;
+    }
+    KyArray<KyDiContext*>& built = state.builtContexts;
+    for (int i = 0; i < built.length(); ++i) {
+        if (auto* context = kyrxCast<KyDiContextBase>(static_cast<KyRxObject*>(built[i]))) {
+            context->subTerminate();
+        }
+    }
+    // Factories build contexts of the layer's base, which knows its name.
+    for (int i = 0; i < built.length(); ++i) {
+        if (auto* context = kyrxCast<KyDiContextBase>(static_cast<KyRxObject*>(built[i]))) {
+            state.contextManager->removeContext(context->name());
+            delete context;
+        }
+        built[i] = nullptr;
+    }
+    delete state.contextManager;
+    state.contextManager = nullptr;
 }
 
 }  // namespace
@@ -83,9 +111,9 @@ void KyDiManager::uninitialize() {
     // then the enumeration collections leave their trackers.
     KnownCollectionRegistry::destroyAll();
     KnownCollectionRegistry::releaseEnumTrackers();
-    // Here come, in this order: the effective properties dropping their
-    // tracker reactors, the built contexts and the context manager going,
-    // and the effective properties going.
+    // Here come the effective properties dropping their tracker reactors.
+    releaseContexts();
+    // Here come the effective properties going.
     // Collections go before the trackers they use.
     KnownCollectionRegistry::deleteAll();
 
@@ -180,6 +208,14 @@ Kyro::ErrorStatus KyDiManager::addObjectReactor(const KyDbObjectId& id,
 Kyro::ErrorStatus KyDiManager::removeObjectReactor(const KyDbObjectId& id,
                                                    KyDiObjectReactor* reactor) {
     return ObjectReactorHub::remove(id, reactor);
+}
+
+KyDiContextManager* KyDiManager::getContextManager() {
+    KyDiManagerState& state = kydiManagerState();
+    if (state.contextManager == nullptr) {
+        state.contextManager = new KyDiContextManager(new KyDiContextManagerImp());
+    }
+    return state.contextManager;
 }
 
 KyDiObservableCollection* KyDiManager::getKnownCollection(const wchar_t* name) {

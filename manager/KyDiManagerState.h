@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <map>
+#include <utility>
 #include <vector>
 
 #include "base/KyArray.h"
@@ -16,6 +17,8 @@
 
 class DataItemHostReactor;
 class IKyRxEnumeration;
+class KyDiContext;
+class KyDiContextManager;
 class KyDiCollection;
 class KyDiCurrencyTracker;
 class KyDiObservableCollection;
@@ -45,6 +48,14 @@ struct KyDiManagerState {
     MemberReactor* memberReactor = nullptr;
     // The items of records and values; owned from initialize to uninitialize.
     LocalDataItemCache* localItemCache = nullptr;
+
+    // The factories of contexts found by name, in order; a row's name and
+    // its factory.
+    std::vector<std::pair<KyString, KyDiContext* (*)(const wchar_t* name)>> contextFactories;
+    // The contexts the factories built, in order; owned.
+    KyArray<KyDiContext*> builtContexts;
+    // The context manager, made at its first demand; owned.
+    KyDiContextManager* contextManager = nullptr;
 
     // The known-collection rows: those of modules first, then the static ones.
     std::vector<KnownCollectionRow> knownCollectionRows;

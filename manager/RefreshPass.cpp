@@ -4,7 +4,10 @@
 #include <vector>
 
 #include "collections/KyDiImpCollectionBase.h"
+#include "contexts/KyDiContextBase.h"
+#include "contexts/KyDiContextManagerImp.h"
 #include "db/KyDbDatabase.h"
+#include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiManagerReactor.h"
 #include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiObservableEnumCollection.h"
@@ -47,13 +50,16 @@ void RefreshPass::run(bool force) {
     // The system variables' activity depends on these, so they are read
     // before anything is told.
     readEditingState();
-    // Here come the built contexts' own refresh, first of all.
+    refreshContexts();
     tellRefreshStarting();
     // System variable reactors are told ahead of the collections.
     refreshSysVars();
     updateCollections();
     refreshEnumCollections();
-    // Here come the effective properties and the context manager, flushed.
+    // Here come the effective properties, flushed.
+    if (KyDiContextManager* contexts = state.contextManager) {
+        contexts->imp()->flush();
+    }
     ObjectReactorHub::pass();
     if (state.localItemCache != nullptr) {
         state.localItemCache->endOfRefresh();
@@ -111,6 +117,17 @@ void RefreshPass::refreshSysVars() {
     }
     for (KyDiSysVar* sysVar : sysVars) {
         sysVar->imp()->refresh();
+    }
+}
+
+void RefreshPass::refreshContexts() {
+    // The count is read anew at every step: a context built during the walk
+    // is reached.
+    const KyArray<KyDiContext*>& built = kydiManagerState().builtContexts;
+    for (int i = 0; i < built.length(); ++i) {
+        if (auto* context = kyrxCast<KyDiContextBase>(static_cast<KyRxObject*>(built[i]))) {
+            context->subRefresh();
+        }
     }
 }
 

@@ -28,6 +28,8 @@ private:
     static void readEditingState();
     static void tellRefreshStarting();
     static void refreshSysVars();
+    // Each built context's own refresh, in the order they were built.
+    static void refreshContexts();
     // "LAYER", then "BLOCK", then the other known collections by name.
     static void updateCollections();
     // The enumeration collections follow the current document and tracker.

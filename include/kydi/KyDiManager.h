@@ -9,6 +9,7 @@
 
 class IKyRxEnumeration;
 class KyDiCollection;
+class KyDiContextManager;
 class KyDiCurrencyTracker;
 class KyDiDataItemReactor;
 class KyDiObservableCollection;
@@ -59,6 +60,10 @@ public:
     // enumeration that a tracker follows, a plain list for any other. The
     // same object for the same enumeration.
     static KyDiCollection* getCollection(const IKyRxEnumeration* enumeration);
+
+    // The context manager, made at its first demand (also before initialize)
+    // and kept until uninitialize.
+    static KyDiContextManager* getContextManager();
 
     // The system variable `name` (case-sensitive), made at the first request
     // and kept until uninitialize. Null when the host can't read the variable:

@@ -1,7 +1,10 @@
 #include "manager/host/DataItemHostReactor.h"
 
 #include "collections/KyDiImpCollectionBase.h"
+#include "contexts/KyDiContextBase.h"
+#include "contexts/KyDiContextManagerImp.h"
 #include "currency/DataItemCurrencyTrackerBase.h"
+#include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiObservableEnumCollection.h"
 #include "kydi/KyDiSysVar.h"
@@ -39,8 +42,16 @@ void DataItemHostReactor::documentToBeDestroyed(KyDiDocument document) {
         static_cast<KyDiObservableEnumCollectionImp*>(collection->imp())
             ->documentToBeDestroyed(document);
     }
-    // Here come, in this order, the effective properties, the context manager
-    // and the built contexts letting go of the document.
+    // Here come the effective properties letting go of the document.
+    if (state.contextManager != nullptr) {
+        state.contextManager->imp()->forgetLastDocument();
+    }
+    for (int i = 0; i < state.builtContexts.length(); ++i) {
+        if (auto* context =
+                kyrxCast<KyDiContextBase>(static_cast<KyRxObject*>(state.builtContexts[i]))) {
+            context->subDatabaseToBeDestroyed(nullptr);
+        }
+    }
     ObjectReactorHub::documentToBeDestroyed(document);
     if (state.localItemCache != nullptr) {
         state.localItemCache->retireDocument(document);
@@ -94,6 +105,12 @@ void DataItemHostReactor::hostStateChanged() {
 }
 
 void DataItemHostReactor::invalidateAll() {
+    const KyArray<KyDiContext*>& built = kydiManagerState().builtContexts;
+    for (int i = 0; i < built.length(); ++i) {
+        if (auto* context = kyrxCast<KyDiContextBase>(static_cast<KyRxObject*>(built[i]))) {
+            context->subInvalidate();
+        }
+    }
     markCollections([](KyDiImpCollectionBase& collection) { collection.subInvalidate(); });
 }
 
