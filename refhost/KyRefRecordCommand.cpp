@@ -50,9 +50,15 @@ void checkNewName(RecordRun& run, const KyString& name, KyDbObjectId renamed = K
     }
 }
 
-// The record the user names, with its name as the drawing holds it; a name
-// that names nothing, or a record of an external reference, ends the command.
-KyDbObjectId findRecord(RecordRun& run, const KyString& typed, KyString& name) {
+// Asks for the record to act on and returns it, with its name as the drawing
+// holds it; an empty answer returns null. A name that names nothing, or a
+// record of an external reference, ends the command.
+KyDbObjectId askForRecord(RecordRun& run, const wchar_t* verb, KyString& name) {
+    const KyString typed = run.context.readName(
+        KyString::formatted(L"Enter name of %ls to %ls: ", run.kind.what, verb).kwszPtr());
+    if (typed.isEmpty()) {
+        return KyDbObjectId();
+    }
     const KyDbObjectId id = KyRefNamedItem::find(run.container, typed);
     if (id.isNull()) {
         run.context.fail(L"Cannot find %ls \"%ls\".", run.kind.what, typed.kwszPtr());
@@ -109,13 +115,11 @@ void create(RecordRun& run) {
 }
 
 void rename(RecordRun& run) {
-    const KyString typed = run.context.readName(
-        KyString::formatted(L"Enter name of %ls to rename: ", run.kind.what).kwszPtr());
-    if (typed.isEmpty()) {
+    KyString oldName;
+    const KyDbObjectId id = askForRecord(run, L"rename", oldName);
+    if (id.isNull()) {
         return;
     }
-    KyString oldName;
-    const KyDbObjectId id = findRecord(run, typed, oldName);
     const KyString newName = run.context.readName(
         KyString::formatted(L"Enter new name for %ls \"%ls\": ", run.kind.what, oldName.kwszPtr())
             .kwszPtr());
@@ -150,13 +154,11 @@ void rename(RecordRun& run) {
 }
 
 void erase(RecordRun& run) {
-    const KyString typed = run.context.readName(
-        KyString::formatted(L"Enter name of %ls to erase: ", run.kind.what).kwszPtr());
-    if (typed.isEmpty()) {
+    KyString name;
+    const KyDbObjectId id = askForRecord(run, L"erase", name);
+    if (id.isNull()) {
         return;
     }
-    KyString name;
-    const KyDbObjectId id = findRecord(run, typed, name);
     if (run.context.database()->isCurrentItem(id)) {
         run.context.fail(L"Cannot erase the current %ls \"%ls\".", run.kind.what, name.kwszPtr());
     }
