@@ -19,12 +19,21 @@
 #include "manager/KyDiObjectModifiedReactor.h"
 
 class KyDiImpDbObjectCollection : public KyDiImpCollectionBase {
+    // A pending record id, in the order of the ids' addresses.
+    struct IdOrder {
+        bool operator()(const KyDbObjectId& a, const KyDbObjectId& b) const { return a < b; }
+    };
+
 public:
+    // The records noted as changed since the last update.
+    using PendingObjects = std::set<KyDbObjectId, IdOrder>;
+
     KyDiImpDbObjectCollection(const wchar_t* name, KyDiCurrencyTracker* tracker);
     explicit KyDiImpDbObjectCollection(const wchar_t* name);
     ~KyDiImpDbObjectCollection() override;
 
     KyDbObjectId ownerId() const { return m_ownerId; }
+    const PendingObjects& pendingObjects() const { return m_pendingObjects; }
 
     // Walks the table or dictionary of `db` into `list`, sets `owner`, and
     // notes the erased records to watch in `erased`. False when it failed.
@@ -55,14 +64,12 @@ public:
     // is the object (it is leaving memory and can't be opened).
     static bool detachFrom(KyDbObjectId id, const KyDbObject* closing, KyDbObjectReactor* reactor);
 
-private:
-    // A pending record id, in the order of the ids' addresses.
-    struct IdOrder {
-        bool operator()(const KyDbObjectId& a, const KyDbObjectId& b) const { return a < b; }
-    };
+protected:
+    PendingObjects& mutablePendingObjects() { return m_pendingObjects; }
 
+private:
     KyDbObjectId m_ownerId;
     KyArray<KyDbObjectId> m_watchedErased;
-    std::set<KyDbObjectId, IdOrder> m_pendingObjects;
+    PendingObjects m_pendingObjects;
     KyDiObjectModifiedReactor<KyDiImpDbObjectCollection>* m_objectReactor;
 };

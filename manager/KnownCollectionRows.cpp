@@ -4,17 +4,28 @@
 #include "collections/KyDiImpDataMaterialItemCollection.h"
 #include "collections/KyDiImpDataPlotSettingsItemCollection.h"
 #include "collections/KyDiImpDictionaryItemCollection.h"
+#include "collections/KyDiImpLayerCollection.h"
 #include "collections/KyDiImpLineTypeCollection.h"
 #include "collections/KyDiImpSymbolTableItemCollection.h"
 #include "currency/DataItemCurrencyTracker.h"
+#include "currency/LayerCurrencyTracker.h"
 #include "db/KyDbDatabase.h"
 
 namespace {
 
+// A factory of a tracker class that takes the whole row.
+template <typename Tracker>
+KyDiCurrencyTracker* newTracker(const wchar_t* name, const wchar_t* sysVar,
+                                const wchar_t* commandFormat, KyDbIdGetter getCurrent,
+                                KyDbIdSetter setCurrent) {
+    return new Tracker(name, sysVar, commandFormat, getCurrent, setCurrent);
+}
+
 KyDiCurrencyTracker* newDataItemTracker(const wchar_t* name, const wchar_t* sysVar,
                                         const wchar_t* commandFormat, KyDbIdGetter getCurrent,
                                         KyDbIdSetter setCurrent) {
-    return new DataItemCurrencyTracker(name, sysVar, commandFormat, getCurrent, setCurrent);
+    return newTracker<DataItemCurrencyTracker>(name, sysVar, commandFormat, getCurrent,
+                                               setCurrent);
 }
 
 // A factory of a collection class that takes the name, the tracker and the
@@ -40,8 +51,9 @@ const KnownCollectionRow kRows[] = {
     {L"DIMSTYLE", &newDataItemTracker, L"DIMSTYLE", &Db::dimstyle, &Db::setDimstyle,
      &Db::dimStyleTableId, &newTableCollection<KyDiImpSymbolTableItemCollection>,
      L"_-dimstyle\n_Restore\n%ls\n", L"/DimStyleTableId/Items"},
-    {L"LAYER", nullptr, L"CLAYER", &Db::clayer, &Db::setClayer, &Db::layerTableId, nullptr,
-     L"'_clayer\n%ls\n", L"/LayerTableId/Items"},
+    {L"LAYER", &newTracker<LayerCurrencyTracker>, L"CLAYER", &Db::clayer, &Db::setClayer,
+     &Db::layerTableId, &newTableCollection<KyDiImpLayerCollection>, L"'_clayer\n%ls\n",
+     L"/LayerTableId/Items"},
     {L"TEXTSTYLE", &newDataItemTracker, L"TEXTSTYLE", &Db::textstyle, &Db::setTextstyle,
      &Db::textStyleTableId, &newTableCollection<KyDiImpSymbolTableItemCollection>,
      L"'_textstyle\n%ls\n", L"/TextStyleTableId/Items"},

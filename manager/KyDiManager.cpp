@@ -2,8 +2,10 @@
 
 #include <utility>
 
+#include "contexts/ContextFactories.h"
 #include "contexts/KyDiContextBase.h"
 #include "contexts/KyDiContextManagerImp.h"
+#include "contexts/KyDiViewportContext.h"
 #include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiDataItemReactor.h"
 #include "kydi/KyDiFunctions.h"
@@ -93,8 +95,9 @@ void KyDiManager::initialize(KyDiHost* host) {
     if (IKyDiCustomContextHost* customHost = IKyDiCustomContextHost::instance()) {
         customHost->registerContextFactories();
     }
-    // Here come the layer's context factories: "DRAWING", "SELECTION",
-    // "VIEWPORT", "RENDER".
+    // The layer's own context factories; "DRAWING", "SELECTION" and "RENDER"
+    // take their places around "VIEWPORT" as they come.
+    ContextFactories::registerFactory(L"VIEWPORT", &KyDiViewportContext::create);
     // The symbol table module's rows, then the static ones, with their paths.
     KnownCollectionRegistry::install();
     NameConverters::install();

@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "contexts/KyDiViewportContext.h"
 #include "manager/host/IKyDiCustomContextHost.h"
 
 using enum KyDiReflectedClasses::ClassIndex;
@@ -40,7 +41,7 @@ const ReflectedClassRow kRows[kClassCount] = {
     {L"KyDiRolloverTipsContext", L"KyDiDbObjectContext", nullptr},
     {L"KyDiDrawingContext", L"KyDiContextBase", nullptr},
     {L"KyDiSelectionContext", L"KyDiContextBase", nullptr},
-    {L"KyDiViewportContext", L"KyDiContextBase", nullptr},
+    {L"KyDiViewportContext", L"KyDiContextBase", &KyDiViewportContext::buildMembers},
     {L"KyDiRenderContext", L"KyDiContextBase", nullptr},
     {L"KyDiLayerFacet", L"KyRxObject", nullptr},
     {L"KyDiRxObjectContext", L"KyDiContextBase", nullptr},
