@@ -9,6 +9,7 @@
 
 #include "contexts/ContextFactories.h"
 #include "contexts/KyDiContextBase.h"
+#include "contexts/ManagerSpy.h"
 #include "kydi/KyDiContextChange.h"
 #include "kydi/KyDiContextIterator.h"
 #include "kydi/KyDiContextManager.h"
@@ -17,6 +18,8 @@
 #include "manager/RefHostFixture.h"
 
 namespace {
+
+using kytest::ManagerSpy;
 
 using Lines = std::vector<std::string>;
 
@@ -45,34 +48,6 @@ protected:
 
 private:
     Lines* m_journal;
-};
-
-// Writes what the manager tells, contexts by their names.
-class ManagerSpy : public KyDiContextReactor {
-public:
-    explicit ManagerSpy(KyDiContextManager* manager) : m_manager(manager) {
-        manager->addReactor(this);
-    }
-    ~ManagerSpy() override { m_manager->removeReactor(this); }
-    ManagerSpy(const ManagerSpy&) = delete;
-    ManagerSpy& operator=(const ManagerSpy&) = delete;
-
-    void contextChanged(const KyDiContextChange* change) override {
-        std::string names = "[";
-        for (int i = 0; i < change->propertyNames.length(); ++i) {
-            names += (i > 0 ? ", " : "") + change->propertyNames[i].utf8();
-        }
-        lines.push_back(tag + "contextChanged " +
-                        KyString(m_manager->getName(change->context)).utf8() + " " + names + "]");
-    }
-    void activeContextsChanged() override { lines.push_back(tag + "activeContextsChanged"); }
-    Lines take() { return std::exchange(lines, {}); }
-
-    Lines lines;
-    std::string tag;
-
-private:
-    KyDiContextManager* m_manager;
 };
 
 Lines* g_journal = nullptr;
