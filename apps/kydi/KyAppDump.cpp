@@ -1,5 +1,6 @@
 #include "KyAppDump.h"
 
+#include "KyAppContextList.h"
 #include "KyAppPropertyValue.h"
 #include "KyAppSysVarValue.h"
 #include "KyRefHost.h"
@@ -15,11 +16,14 @@
 #include "io/KyRefTableRows.h"
 #include "io/KyRefValueForms.h"
 #include "io/KyRefWriteContext.h"
+#include "kydi/KyDiContext.h"
 #include "kydi/KyDiDbItem.h"
+#include "kydi/KyDiDbLayerItem.h"
 #include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiManager.h"
 #include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiSysVar.h"
+#include "rx/KyRxProperty.h"
 
 namespace {
 
@@ -131,6 +135,31 @@ KyRefJson tablesJson(KyRefWriteContext& context) {
     return out;
 }
 
+// What a layer shows beside its name: its values and states, by the names of
+// the drawing file.
+const std::pair<const char*, const wchar_t*> kLayerProperties[] = {
+    {"color", L"Color"},
+    {"linetype", L"LinetypeObjectId"},
+    {"lineweight", L"LineWeight"},
+    {"transparency", L"Transparency"},
+    {"off", L"IsOff"},
+    {"frozen", L"IsFrozen"},
+    {"locked", L"IsLocked"},
+    {"plottable", L"IsPlottable"},
+};
+
+KyRefJson layerPropertiesJson(KyDiDynamicObject* layer) {
+    KyRefJson out = KyRefJson::object();
+    for (const auto& [key, name] : kLayerProperties) {
+        const auto* property = kyrxCast<KyRxProperty>(KyDiFindMember(layer, name));
+        KyRxValue value;
+        if (property != nullptr && property->getValue(layer, value) == Kyro::eOk) {
+            out[key] = KyAppPropertyValue::format(value);
+        }
+    }
+    return out;
+}
+
 KyRefJson itemJson(KyDiDynamicObject* item) {
     KyRefJson out = KyRefJson::object();
     out["name"] = KyDiGetItemName(item).utf8();
@@ -142,6 +171,29 @@ KyRefJson itemJson(KyDiDynamicObject* item) {
         out["handle"] = nullptr;
         const KyRxValue* value = item->value();
         out["value"] = value != nullptr ? KyAppPropertyValue::format(*value) : std::string();
+    }
+    if (kyrxCast<KyDiDbLayerItem>(static_cast<KyRxObject*>(item)) != nullptr) {
+        out["properties"] = layerPropertiesJson(item);
+    }
+    return out;
+}
+
+// Every context that a factory makes, and any other the manager holds, in
+// name order.
+KyRefJson contextsJson() {
+    KyAppContextList::makeAll();
+    KyRefJson out = KyRefJson::array();
+    for (const auto& [name, context] : KyAppContextList::inNameOrder()) {
+        KyRefJson entry = KyRefJson::object();
+        entry["name"] = name;
+        entry["active"] = context->isActive();
+        entry["priority"] = context->priority();
+        KyRefJson properties = KyRefJson::object();
+        for (const auto& [property, value] : KyAppContextList::properties(context)) {
+            properties[property] = value;
+        }
+        entry["properties"] = std::move(properties);
+        out.push_back(std::move(entry));
     }
     return out;
 }
@@ -182,7 +234,7 @@ KyRefJson KyAppDump::build(KyRefHost& host) {
     KyRefJson out = KyRefJson::object();
     out["document"] = documentJson(host);
     out["collections"] = collectionsJson();
-    out["contexts"] = KyRefJson::array();
+    out["contexts"] = contextsJson();
     out["sysvars"] = sysVarsJson(host);
     KyDbDatabase* database = host.documents().currentDatabase();
     if (database == nullptr) {

@@ -205,7 +205,27 @@ void writeCollections(const KyRefJson& collections, std::ostream& out) {
             const std::string where = item["handle"].is_null()
                                           ? item["value"].get<std::string>()
                                           : "#" + item["handle"].get<std::string>();
-            line(out, 2, textOf(item["name"].get<std::string>()) + " " + where);
+            std::string text = textOf(item["name"].get<std::string>()) + " " + where;
+            if (item.contains("properties")) {
+                for (auto it = item["properties"].begin(); it != item["properties"].end(); ++it) {
+                    text += " " + it.key() + "=" + it->get<std::string>();
+                }
+            }
+            line(out, 2, text);
+        }
+    }
+}
+
+void writeContexts(const KyRefJson& contexts, std::ostream& out) {
+    line(out, 0, "contexts " + std::to_string(contexts.size()));
+    for (const KyRefJson& context : contexts) {
+        line(out, 1,
+             context["name"].get<std::string>() + " priority " +
+                 std::to_string(context["priority"].get<int>()) +
+                 (context["active"].get<bool>() ? " active" : " inactive"));
+        const KyRefJson& properties = context["properties"];
+        for (auto it = properties.begin(); it != properties.end(); ++it) {
+            line(out, 2, it.key() + " " + it->get<std::string>());
         }
     }
 }
@@ -215,7 +235,7 @@ void writeCollections(const KyRefJson& collections, std::ostream& out) {
 void KyAppDumpText::write(const KyRefJson& dump, std::ostream& out) {
     writeDocument(dump["document"], out);
     writeCollections(dump["collections"], out);
-    line(out, 0, "contexts " + std::to_string(dump["contexts"].size()));
+    writeContexts(dump["contexts"], out);
     writeSysVars(dump["sysvars"], out);
     writeTables(dump["tables"], out);
     if (dump["objects"].is_object()) {

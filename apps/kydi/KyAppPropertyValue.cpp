@@ -9,6 +9,9 @@
 #include "kydi/KyDiExpression.h"
 #include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiValueTypes.h"
+#include "rx/KyRxBoxedValue.h"
+#include "rx/KyRxMember.h"
+#include "rx/KyRxProperty.h"
 #include "rx/KyRxValue.h"
 
 namespace {
@@ -98,6 +101,24 @@ std::string KyAppPropertyValue::format(const KyRxValue& value) {
         return expression->expression.isEmpty()
                    ? format(expression->value)
                    : KyAppValue::text(expression->expression.utf8()).format();
+    }
+    // A value of several members without a text of its own (tone
+    // parameters) prints its members.
+    const KyRxMemberCollection* members = value.type().members();
+    if (members != nullptr && value.text().isEmpty()) {
+        KyRxValue copy = value;
+        KyRxBoxedValueOnStack box(copy);
+        std::string text = "{";
+        for (int i = 0; i < members->count(); ++i) {
+            const auto* member = kyrxCast<KyRxProperty>(members->getAt(i));
+            KyRxValue part;
+            if (member == nullptr || member->getValue(&box, part) != Kyro::eOk) {
+                continue;
+            }
+            text += (text.size() > 1 ? ", " : "") + KyString(member->name()).utf8() + "=" +
+                    format(part);
+        }
+        return text + "}";
     }
     // Enumerated values print their tags; anything else its own text.
     return KyAppValue::text(value.text().utf8()).format();

@@ -4,6 +4,8 @@
 #include <optional>
 
 #include "KyAppCollectionWatch.h"
+#include "KyAppContextList.h"
+#include "KyAppContextWatch.h"
 #include "KyAppHostEventPrinter.h"
 #include "KyAppMemberList.h"
 #include "KyAppObjectWatch.h"
@@ -20,9 +22,11 @@
 #include "db/KyDbHandle.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbSymbolTable.h"
+#include "kydi/KyDiContext.h"
 #include "kydi/KyDiDataItemFactory.h"
 #include "kydi/KyDiDynamicObject.h"
 #include "kydi/KyDiFunctions.h"
+#include "kydi/KyDiLayerService.h"
 #include "kydi/KyDiManager.h"
 #include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiSysVar.h"
@@ -66,6 +70,7 @@ KyAppScript::~KyAppScript() {
     m_sysVarWatches.clear();
     m_objectWatches.clear();
     m_collectionWatches.clear();
+    m_contextWatches.clear();
     if (m_hostPrinter != nullptr) {
         m_session.host().removeReactor(m_hostPrinter.get());
     }
@@ -87,8 +92,11 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"echo", 0, -1, "echo TEXT", &Script::echo},
         {"select", 0, -1, "select HANDLE...", &Script::select},
         {"log", 0, 0, "log", &Script::log},
-        {"watch", 1, 2, "watch host|sysvar NAME|object HANDLE|collection NAME|context NAME",
+        {"watch", 1, 2,
+         "watch host|sysvar NAME|object HANDLE|collection NAME|context NAME|contexts",
          &Script::watch},
+        {"prompts", 1, 1, "prompts on|off", &Script::prompts},
+        {"answer", 2, 2, "answer turnon yes|no", &Script::answer},
         {"sysvar", 1, 2, "sysvar NAME [VALUE]", &Script::sysvar},
         {"language", 1, 1, "language CODE", &Script::language},
         {"members", 1, 1, "members HANDLE", &Script::members},
@@ -97,6 +105,7 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"current", 1, 2, "current COLLECTION [ITEM]", &Script::collectionStatement},
         {"get", 3, 3, "get COLLECTION ITEM PROPERTY", &Script::collectionStatement},
         {"set", 4, 4, "set COLLECTION ITEM PROPERTY VALUE", &Script::collectionStatement},
+        {"contexts", 0, 0, "contexts", &Script::contexts},
         {"context", 1, 3, "context NAME [PROPERTY [VALUE]]", &Script::context},
     };
     return kRows;
@@ -327,10 +336,20 @@ bool KyAppScript::watch(const KyAppStatement& statement) {
             std::make_unique<KyAppCollectionWatch>(name, collection, m_out));
         return true;
     }
-    if (what == "context" && !name.empty()) {
-        return fail("unknown context " + name);
+    if ((what == "context" && !name.empty()) || (what == "contexts" && name.empty())) {
+        if (what == "context" && KyAppContextList::find(name) == nullptr) {
+            return fail("unknown context " + name);
+        }
+        for (const auto& watch : m_contextWatches) {
+            if (watch->name() == name) {
+                return true;
+            }
+        }
+        m_contextWatches.push_back(std::make_unique<KyAppContextWatch>(name, m_out));
+        return true;
     }
-    return fail("usage: watch host|sysvar NAME|object HANDLE|collection NAME|context NAME");
+    return fail(
+        "usage: watch host|sysvar NAME|object HANDLE|collection NAME|context NAME|contexts");
 }
 
 bool KyAppScript::sysvar(const KyAppStatement& statement) {
@@ -408,25 +427,6 @@ bool KyAppScript::objectOf(const KyAppWord& word, KyDbObjectId& id, std::string&
     return true;
 }
 
-KyDiDynamicObject* KyAppScript::layerItem(const std::string& name, std::string& error) {
-    KyRefDocument* document = currentDocument();
-    if (document == nullptr) {
-        error = "no document is open";
-        return nullptr;
-    }
-    KyDbObjectId id;
-    {
-        KyDbObjectPointer<KyDbSymbolTable> layers(document->database()->layerTableId(),
-                                                  KyDb::kForRead);
-        if (layers.openStatus() != Kyro::eOk ||
-            layers->getAt(KyString::fromUtf8(name), id) != Kyro::eOk) {
-            error = "no layer " + KyAppValue::text(name).format();
-            return nullptr;
-        }
-    }
-    return createDataItem(KyString::fromUtf8(name), KyRxValue(id), nullptr, nullptr, true);
-}
-
 KyDiDynamicObject* KyAppScript::itemOf(KyDiObservableCollection* collection,
                                        const std::string& collectionName, const std::string& name,
                                        std::string& error) {
@@ -441,29 +441,30 @@ KyDiDynamicObject* KyAppScript::itemOf(KyDiObservableCollection* collection,
     return nullptr;
 }
 
-bool KyAppScript::propertyStatement(const KyAppStatement& statement, KyDiDynamicObject* item) {
-    const std::string& name = statement.words[2].text;
+bool KyAppScript::propertyStatement(const KyAppStatement& statement, KyDiDynamicObject* item,
+                                    std::size_t at) {
+    const std::string& name = statement.words[at].text;
     const auto* property = kyrxCast<KyRxProperty>(KyDiFindMember(item, KyString::fromUtf8(name)));
     if (property == nullptr) {
-        return fail(KyAppValue::text(statement.words[1].text).format() + " has no property " +
+        return fail(KyAppValue::text(statement.words[at - 1].text).format() + " has no property " +
                     name);
     }
-    if (statement.name == "get") {
+    if (statement.words.size() == at + 1) {
         KyRxValue value;
         if (const Kyro::ErrorStatus status = property->getValue(item, value); status != Kyro::eOk) {
             return fail(name + " can't be read: " + statusText(status));
         }
-        m_out << KyAppValue::text(KyDiGetItemName(item).utf8()).format() << ' ' << name << ' '
+        m_out << KyAppValue::text(statement.words[at - 1].text).format() << ' ' << name << ' '
               << KyAppPropertyValue::format(value) << '\n';
         return true;
     }
     std::string error;
-    const KyAppWord& word = statement.words[3];
+    const KyAppWord& word = statement.words[at + 1];
     const std::optional<KyAppValue> typed = KyAppValue::parse(word.text, word.quoted, error);
     KyRxValue value;
-    if (!typed.has_value() ||
-        !KyAppPropertyValue::toValue(*typed, property->type(), currentDocument()->database(), value,
-                                     error)) {
+    if (!typed.has_value() || !KyAppPropertyValue::toValue(
+                                  *typed, property->type(),
+                                  m_session.host().documents().currentDatabase(), value, error)) {
         return fail(error);
     }
     if (const Kyro::ErrorStatus status = property->setValue(item, value); status != Kyro::eOk) {
@@ -478,12 +479,6 @@ bool KyAppScript::collectionStatement(const KyAppStatement& statement) {
         KyDiManager::getKnownCollection(KyString::fromUtf8(name));
     std::string error;
     if (collection == nullptr) {
-        // Until the layers are a collection of their own, a layer is reached
-        // through its item.
-        if (name == "LAYER" && (statement.name == "get" || statement.name == "set")) {
-            KyDiDynamicObject* item = layerItem(statement.words[1].text, error);
-            return item != nullptr ? propertyStatement(statement, item) : fail(error);
-        }
         return fail("unknown collection " + name);
     }
     if (statement.name == "items") {
@@ -513,7 +508,7 @@ bool KyAppScript::collectionStatement(const KyAppStatement& statement) {
         return true;
     }
     KyDiDynamicObject* item = itemOf(collection, name, statement.words[1].text, error);
-    return item != nullptr ? propertyStatement(statement, item) : fail(error);
+    return item != nullptr ? propertyStatement(statement, item, 2) : fail(error);
 }
 
 bool KyAppScript::collections(const KyAppStatement&) {
@@ -528,6 +523,49 @@ bool KyAppScript::collections(const KyAppStatement&) {
     return true;
 }
 
+bool KyAppScript::prompts(const KyAppStatement& statement) {
+    const std::string& word = statement.words[0].text;
+    if (word != "on" && word != "off") {
+        return fail("usage: prompts on|off");
+    }
+    m_session.host().documents().setPromptsAllowed(word == "on");
+    return true;
+}
+
+bool KyAppScript::answer(const KyAppStatement& statement) {
+    const std::string& answer = statement.words[1].text;
+    if (statement.words[0].text != "turnon" || (answer != "yes" && answer != "no")) {
+        return fail("usage: answer turnon yes|no");
+    }
+    KyRefLayerService* layers = m_session.host().layerService();
+    if (layers == nullptr) {
+        return fail("the host has no layer service");
+    }
+    layers->setTurnOnAnswer(answer == "yes" ? KyDiLayerService::kTurnLayerOn
+                                            : KyDiLayerService::kLeaveLayerOff);
+    return true;
+}
+
+bool KyAppScript::contexts(const KyAppStatement&) {
+    KyAppContextList::makeAll();
+    for (const auto& [name, context] : KyAppContextList::inNameOrder()) {
+        m_out << name << " priority " << context->priority()
+              << (context->isActive() ? " active" : " inactive") << '\n';
+    }
+    return true;
+}
+
 bool KyAppScript::context(const KyAppStatement& statement) {
-    return fail("unknown context " + statement.words[0].text);
+    const std::string& name = statement.words[0].text;
+    KyDiContext* context = KyAppContextList::find(name);
+    if (context == nullptr) {
+        return fail("unknown context " + name);
+    }
+    if (statement.words.size() == 1) {
+        for (const auto& [property, value] : KyAppContextList::properties(context)) {
+            m_out << name << ' ' << property << ' ' << value << '\n';
+        }
+        return true;
+    }
+    return propertyStatement(statement, context, 1);
 }

@@ -15,14 +15,19 @@
 //   echo TEXT          prints TEXT
 //   select HANDLE...   sets the selection of the current document
 //   log                the host's command line since the last log, each line behind "| "
-//   watch host | sysvar NAME | object HANDLE | collection NAME | context NAME
+//   watch host | sysvar NAME | object HANDLE | collection NAME | context NAME | contexts
+//   prompts on|off     whether the current document can take a prompt
+//   answer turnon yes|no  what the host's layer service answers when asked to
+//                      turn an off current layer on
 //   sysvar NAME [VALUE]
 //   language CODE      the platform's texts: "base" or a language of its texts ("de")
 //   members HANDLE     the members of a drawing object as a palette sees them
 //   collections        the names of the known collections: built, can be made, or not
 //                      available in this build
 //   items COLLECTION, current COLLECTION [ITEM], get COLLECTION ITEM PROPERTY,
-//   set COLLECTION ITEM PROPERTY VALUE, context NAME [PROPERTY [VALUE]]
+//   set COLLECTION ITEM PROPERTY VALUE
+//   contexts           the contexts by name, with priority and activity
+//   context NAME [PROPERTY [VALUE]]  a context's properties, or one read or written
 #pragma once
 
 #include <istream>
@@ -35,6 +40,7 @@
 #include "KyAppStatement.h"
 
 class KyAppCollectionWatch;
+class KyAppContextWatch;
 class KyAppHostEventPrinter;
 class KyDiObservableCollection;
 class KyAppObjectWatch;
@@ -75,15 +81,15 @@ private:
     // The object of a handle word ("#1F" or "1F") in the current document,
     // not erased; false with `error` otherwise.
     bool objectOf(const KyAppWord& word, KyDbObjectId& id, std::string& error);
-    // The item of the layer `name` of the current document; null with
-    // `error` when there is none.
-    KyDiDynamicObject* layerItem(const std::string& name, std::string& error);
     // The item `name` of a collection, by its display name; null with
     // `error` when there is none.
     KyDiDynamicObject* itemOf(KyDiObservableCollection* collection,
                               const std::string& collectionName, const std::string& name,
                               std::string& error);
-    bool propertyStatement(const KyAppStatement& statement, KyDiDynamicObject* item);
+    // Reads (or, with a value after it, writes) the property named by word
+    // `at` of `item`; the word before names the item.
+    bool propertyStatement(const KyAppStatement& statement, KyDiDynamicObject* item,
+                           std::size_t at);
 
     bool open(const KyAppStatement& statement);
     bool newDocument(const KyAppStatement& statement);
@@ -104,6 +110,9 @@ private:
     bool members(const KyAppStatement& statement);
     bool collections(const KyAppStatement& statement);
     bool collectionStatement(const KyAppStatement& statement);
+    bool prompts(const KyAppStatement& statement);
+    bool answer(const KyAppStatement& statement);
+    bool contexts(const KyAppStatement& statement);
     bool context(const KyAppStatement& statement);
 
     KyAppSession& m_session;
@@ -112,5 +121,6 @@ private:
     std::vector<std::unique_ptr<KyAppSysVarWatch>> m_sysVarWatches;
     std::vector<std::unique_ptr<KyAppObjectWatch>> m_objectWatches;
     std::vector<std::unique_ptr<KyAppCollectionWatch>> m_collectionWatches;
+    std::vector<std::unique_ptr<KyAppContextWatch>> m_contextWatches;
     bool m_anyFailed = false;
 };

@@ -131,6 +131,18 @@ TEST_F(Program, ACurrentLayerSetByCommandIsReportedOnceAfterTheHostRanIt) {
     expectScript("current_layer", 0);
 }
 
+TEST_F(Program, ALayerRenamedErasedAndBroughtBackIsAChangeARemovalAndAnAddition) {
+    expectScript("layer_rename_erase", 0);
+}
+
+TEST_F(Program, AnOffLayerMadeCurrentIsTurnedOnWhenTheUserSaysYesAndOnlyWhenAsked) {
+    expectScript("current_off_layer", 0);
+}
+
+TEST_F(Program, ContextsAreListedReadWrittenAndWatched) {
+    expectScript("contexts", 1);
+}
+
 TEST_F(Program, ARefusedValueChangesNothingAndTheHostIsLeftAtNoPrompt) {
     expectScript("refused_value", 0);
 }
