@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "KyRefCommandContext.h"
+#include "KyRefHost.h"
 #include "KyRefLanguage.h"
 #include "KyRefLayerAnswers.h"
 #include "KyRefLayerFilters.h"
@@ -12,6 +13,7 @@
 #include "KyRefReadAccess.h"
 #include "KyRefTransparencyText.h"
 #include "db/KyDbDatabase.h"
+#include "db/KyDbLayerStateManager.h"
 #include "db/KyDbLayerTableRecord.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbSymbolTable.h"
@@ -367,6 +369,59 @@ void filter(LayerRun& run) {
     run.filter = spelling;
 }
 
+const KyRefKeyword kStateKeywords[] = {
+    {L"Save", L"Speichern"},
+    {L"Restore", L"Wiederherstellen"},
+    {L"Delete", L"Loeschen"},
+};
+constexpr int kSaveState = 0;
+constexpr int kRestoreState = 1;
+
+// The layer states of the drawing: saves the layers as a state (all their
+// properties), restores one with the layer service's restore flags, or
+// deletes one. States go by the viewport the host shows, if any.
+void state(LayerRun& run) {
+    const KyString prompt = KyString::formatted(L"Enter a layer state option %ls: ",
+                                                KyRefKeywords::options(kStateKeywords).kwszPtr());
+    const int option = run.answers.readOption(prompt, kStateKeywords);
+    if (option < 0) {
+        return;
+    }
+    static const wchar_t* const kNamePrompts[] = {
+        L"Enter name of the layer state to save: ",
+        L"Enter name of the layer state to restore: ",
+        L"Enter name of the layer state to delete: ",
+    };
+    const KyString name = readLayerName(run, kNamePrompts[option]);
+    if (name.isEmpty()) {
+        return;
+    }
+    KyRefHost& host = run.context.host();
+    KyDbObjectId viewportId;
+    if (KyRefViewportService* viewports = host.viewportService()) {
+        viewports->viewportId(viewportId);
+    }
+    KyDbLayerStateManager* manager = run.context.database()->getLayerStateManager();
+    if (option == kSaveState) {
+        if (manager->saveLayerState(name, 0, viewportId) != Kyro::eOk) {
+            run.context.fail(L"Cannot save layer state \"%ls\".", name.kwszPtr());
+        }
+        return;
+    }
+    if (!manager->hasLayerState(name)) {
+        run.context.fail(L"Cannot find layer state \"%ls\".", name.kwszPtr());
+    }
+    if (option == kRestoreState) {
+        KyRefLayerService* layers = host.layerService();
+        const int flags = layers != nullptr ? layers->restoreFlags() : 0;
+        if (manager->restoreLayerState(name, viewportId, flags) != Kyro::eOk) {
+            run.context.fail(L"Cannot restore layer state \"%ls\".", name.kwszPtr());
+        }
+    } else if (manager->deleteLayerState(name) != Kyro::eOk) {
+        run.context.fail(L"Cannot delete layer state \"%ls\".", name.kwszPtr());
+    }
+}
+
 // The options in the order the prompt shows them, and what each does.
 const KyRefKeyword kOptions[] = {
     {L"?", L"?"},
@@ -387,10 +442,12 @@ const KyRefKeyword kOptions[] = {
     {L"Unlock", L"ENtsperren"},
     {L"Description", L"Beschreibung"},
     {L"Filter", L"FIlter"},
+    {L"STate", L"ZUstand"},
 };
 void (*const kRunOption[])(LayerRun&) = {
-    &list,         &make, &set,       &create, &turnOn, &turnOff, &color,  &linetype, &lineWeight,
-    &transparency, &plot, &plotStyle, &freeze, &thaw,   &lock,    &unlock, &describe, &filter,
+    &list,     &make,       &set,          &create, &turnOn,    &turnOff, &color,
+    &linetype, &lineWeight, &transparency, &plot,   &plotStyle, &freeze,  &thaw,
+    &lock,     &unlock,     &describe,     &filter, &state,
 };
 static_assert(std::size(kOptions) == std::size(kRunOption));
 

@@ -13,9 +13,15 @@
 //                     the layer stays as it is
 //   LOck, Unlock
 //   Filter            Set and a filter's name: makes that layer filter current
+//   STate             Save, Restore or Delete, then the name of a layer state:
+//                     saves the layers (every property), restores a state
+//                     with the layer service's restore flags, or deletes
+//                     one; in the viewport the host shows, if any. An
+//                     unknown name fails the command
 // Lists of layer names are read by KyRefLayerNameList (patterns, or every
 // name literal behind "="): a name of a list that finds no layer fails the
-// command. Make, Set and Filter take one name as it stands, never a pattern.
+// command. Make, Set, Filter and STate take one name as it stands, never a
+// pattern.
 // Values are read by KyRefLayerAnswers.
 //
 // Each option reads and checks all of its answers before it changes a layer.

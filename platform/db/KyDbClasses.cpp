@@ -19,6 +19,7 @@
 #include "db/KyDbDimension.h"
 #include "db/KyDbEllipse.h"
 #include "db/KyDbEntity.h"
+#include "db/KyDbLayerState.h"
 #include "db/KyDbLayerTable.h"
 #include "db/KyDbLayerTableRecord.h"
 #include "db/KyDbLayout.h"
@@ -119,6 +120,7 @@ void kyrxRegisterDatabaseClasses() {
         &KyDbRenderSettings::desc,
         &KyDbDictionaryVar::desc,
         &KyDbSun::desc,
+        &KyDbLayerState::desc,
         &KyDbRasterImageDef::desc,
         &KyDbUnknownObject::desc,
         &KyDbLongTransaction::desc,

@@ -11,6 +11,7 @@
 #include "db/KyDbDimStyleTable.h"
 #include "db/KyDbHeader.h"
 #include "db/KyDbHostApplicationServices.h"
+#include "db/KyDbLayerStateManager.h"
 #include "db/KyDbLayerTable.h"
 #include "db/KyDbLinetypeTable.h"
 #include "db/KyDbObjectAccess.h"
@@ -68,7 +69,10 @@ std::uint64_t g_lastSerial = 0;
 }  // namespace
 
 KyDbDatabase::KyDbDatabase(bool buildDefaultDrawing)
-    : m_header(new KyDbHeader()), m_undo(new KyDbUndoController(this)), m_serial(++g_lastSerial) {
+    : m_header(new KyDbHeader()),
+      m_undo(new KyDbUndoController(this)),
+      m_layerStates(new KyDbLayerStateManager(this)),
+      m_serial(++g_lastSerial) {
     if (g_liveDatabases == nullptr) {
         g_liveDatabases = new std::unordered_map<const KyDbDatabase*, std::uint64_t>();
     }
@@ -97,6 +101,8 @@ KyDbDatabase::~KyDbDatabase() {
     g_liveDatabases->erase(this);
     delete m_undo;
     m_undo = nullptr;
+    delete m_layerStates;
+    m_layerStates = nullptr;
     for (KyDbObject* object : m_objects) {
         KyDbObjectAccess::forget(object);
     }

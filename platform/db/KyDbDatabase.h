@@ -118,8 +118,9 @@ public:
     // Opens a table by its id; the caller closes it.
     Kyro::ErrorStatus getSymbolTable(KyDbSymbolTable*& table, KyDbObjectId tableId,
                                      KyDb::OpenMode mode);
-    // The layer state manager of the drawing: none yet, null.
-    KyDbLayerStateManager* getLayerStateManager() const { return nullptr; }
+    // The layer state manager of the drawing (KyDbLayerStateManager.h): one
+    // for the life of the database.
+    KyDbLayerStateManager* getLayerStateManager() const { return m_layerStates; }
 
     // ---- Header
 
@@ -226,6 +227,7 @@ private:
     KyArray<KyDbDatabaseReactor*> m_reactors;
     KyDbHeader* m_header;
     KyDbUndoController* m_undo;
+    KyDbLayerStateManager* m_layerStates;
     KyDbObjectId m_blockTable;
     KyDbObjectId m_layerTable;
     KyDbObjectId m_linetypeTable;

@@ -104,6 +104,7 @@ const TextRow kPropertyTexts[] = {
     {L"DimBlockId", 9489},
     {L"Items", 9490},
     {L"DecimalPlaces", 9491},
+    {L"Mask", 9492},
 };
 
 // Local names of the database classes, by class name.
@@ -164,6 +165,7 @@ const TextRow kClassTexts[] = {
     {L"KyDbRasterImageDef", 9653},
     {L"KyDbUnknownObject", 9654},
     {L"KyDbLongTransaction", 9655},
+    {L"KyDbLayerState", 9656},
 };
 
 template <std::size_t N>

@@ -79,19 +79,6 @@ void KyRefDrawingExtras::setLayerFilters(KyRefJson filters) {
     }
 }
 
-const KyRefJson& KyRefDrawingExtras::layerStates() const {
-    const auto found = m_topLevel.find("layerStates");
-    return found != m_topLevel.end() ? *found : nullJson();
-}
-
-void KyRefDrawingExtras::setLayerStates(KyRefJson states) {
-    if (states.is_null()) {
-        m_topLevel.erase("layerStates");
-    } else {
-        m_topLevel["layerStates"] = std::move(states);
-    }
-}
-
 bool KyRefDrawingExtras::isAdded(KyDbHandle handle) const {
     return m_addedIndex.find(handle.value()) != m_addedIndex.end();
 }

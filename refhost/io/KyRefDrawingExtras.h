@@ -7,7 +7,7 @@
 //   as JSON;
 // - the kind of entities that the platform has no class for;
 // - the top-level members beside the tables (source, members nobody knows,
-//   the layer filters and layer states, kept whole until they are modelled);
+//   the layer filters, kept whole until they are modelled);
 // - the header variables as the file wrote them, and those it left out;
 // - the objects that the reader added because the file left them out, with
 //   their JSON when the reading ended: they stay out of a save as long as
@@ -59,17 +59,15 @@ public:
     // Top-level members the file had, by name.
     bool hadMember(const std::string& name) const;
     void noteMember(const std::string& name) { m_members.push_back(name); }
-    // Top-level members other than the tables, the header and the objects,
-    // in file order: "source", the layer filters and states, unknown ones.
+    // Top-level members other than the tables, the header, the objects and
+    // the layer states, in file order: "source", the layer filters, unknown
+    // ones.
     KyRefJson& topLevel() { return m_topLevel; }
     const KyRefJson& topLevel() const { return m_topLevel; }
 
-    // The layer filter tree and the saved layer states, as the file had them
-    // (null when it had none).
+    // The layer filter tree as the file had it (null when it had none).
     const KyRefJson& layerFilters() const;
     void setLayerFilters(KyRefJson filters);
-    const KyRefJson& layerStates() const;
-    void setLayerStates(KyRefJson states);
 
     // ---- The header
     // Each variable as the file wrote it, by its name in the file.

@@ -11,6 +11,7 @@
 #include "KyRefEntityRows.h"
 #include "KyRefHeaderRows.h"
 #include "KyRefJsonNode.h"
+#include "KyRefLayerStateRows.h"
 #include "KyRefObjectRows.h"
 #include "KyRefReadContext.h"
 #include "KyRefTableRows.h"
@@ -30,7 +31,7 @@ using Std = KyDbStandardContent;
 
 // The top-level members the reader models; any other is kept as it is.
 bool isModelledMember(const std::string& name) {
-    static const char* const kMembers[] = {"format", "version", "header", "objects"};
+    static const char* const kMembers[] = {"format", "version", "header", "objects", "layerStates"};
     for (const char* member : kMembers) {
         if (name == member) {
             return true;
@@ -119,6 +120,9 @@ public:
             KyRefObjectRows::readRoot(m_context, *objects);
         }
         addStandard(Std::kDictionaries);
+        if (const auto states = m_root.optional("layerStates")) {
+            KyRefLayerStateRows::read(m_context, *states);
+        }
         readTable(KyRefTableRows::named("views"), nullptr);
         readTable(KyRefTableRows::named("viewports"), nullptr);
         readBlockLayouts();
@@ -161,7 +165,7 @@ private:
     }
 
     // Notes the top-level members, and keeps those the database does not
-    // hold: the source, the layer filters and states, and unknown ones.
+    // hold: the source, the layer filters, and unknown ones.
     void keepTopLevel() {
         for (auto it = m_root.value().begin(); it != m_root.value().end(); ++it) {
             m_extras.noteMember(it.key());
@@ -173,8 +177,6 @@ private:
                 member.asString();
             } else if (it.key() == "layerFilters") {
                 member.expectObject();
-            } else if (it.key() == "layerStates") {
-                member.expectArray();
             }
             m_extras.topLevel()[it.key()] = *it;
         }

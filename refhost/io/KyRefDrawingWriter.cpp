@@ -10,6 +10,7 @@
 #include "KyRefDrawingReader.h"
 #include "KyRefEntityRows.h"
 #include "KyRefHeaderRows.h"
+#include "KyRefLayerStateRows.h"
 #include "KyRefMemberList.h"
 #include "KyRefObjectRows.h"
 #include "KyRefTableRows.h"
@@ -130,6 +131,10 @@ KyRefJson KyRefDrawingWriter::toJson(KyDbDatabase* database) {
         for (auto it = extras->topLevel().begin(); it != extras->topLevel().end(); ++it) {
             document[it.key()] = *it;
         }
+    }
+    KyRefJson states = KyRefLayerStateRows::write(context);
+    if (wanted("layerStates", states.empty())) {
+        document["layerStates"] = std::move(states);
     }
     KyRefJson header = KyRefHeaderRows::write(context);
     if (wanted("header", header.empty())) {

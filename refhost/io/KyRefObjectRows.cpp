@@ -14,6 +14,7 @@
 #include "db/KyDbDictionaryIterator.h"
 #include "db/KyDbDictionaryVar.h"
 #include "db/KyDbDictionaryWithDefault.h"
+#include "db/KyDbLayerStateManager.h"
 #include "db/KyDbLayout.h"
 #include "db/KyDbMLeaderStyle.h"
 #include "db/KyDbMaterial.h"
@@ -507,6 +508,12 @@ void readEntries(KyRefReadContext& context, const KyRefJsonNode& node, KyDbObjec
     for (auto it = entries.value().begin(); it != entries.value().end(); ++it) {
         const std::string& key = it.key();
         const KyRefJsonNode entry(*it, entries, key);
+        if (inRoot && kyrefWide(key).compareNoCase(KyDbLayerStateManager::kDictionaryKey) == 0) {
+            entry.fail(
+                "expected the layer states in the top-level member \"layerStates\", "
+                "found an entry under " +
+                key + ", the key they take in the drawing");
+        }
         entry.expectObject();
         const KyRefJsonNode typeNode = entry.required("type", "the type of the object");
         const std::string type = typeNode.asString();

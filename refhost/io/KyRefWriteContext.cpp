@@ -1,9 +1,18 @@
 #include "KyRefWriteContext.h"
 
 #include "KyRefMemberList.h"
+#include "db/KyDbDatabase.h"
 #include "db/KyDbDictionary.h"
+#include "db/KyDbLayerStateManager.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbSymbolTableRecord.h"
+
+KyRefWriteContext::KyRefWriteContext(KyDbDatabase* database, const KyRefDrawingExtras* extras)
+    : m_database(database), m_extras(extras) {
+    if (database != nullptr) {
+        m_layerStates = database->getLayerStateManager()->layerStatesDictionaryId(false);
+    }
+}
 
 const std::string& KyRefWriteContext::recordName(KyDbObjectId id) {
     const auto cached = m_names.find(id.stub());
@@ -53,5 +62,8 @@ void KyRefWriteContext::shape(KyRefJson& out, KyDbObjectId id,
 }
 
 bool KyRefWriteContext::isLeftOut(KyDbObjectId id) const {
+    if (!m_layerStates.isNull() && id == m_layerStates) {
+        return true;
+    }
     return m_omitsAdded && m_extras != nullptr && m_extras->isAdded(KyDbHandle(id.handle()));
 }

@@ -1,7 +1,7 @@
 // KyRefWriteContext: the state of one writing of a drawing: the database, the
 // extras of the file it was read from (if any), the names of the records and
-// keys of the entries that the file names references by, and whether the
-// objects that the reader added are left out of this save.
+// keys of the entries that the file names references by, and what this save
+// leaves out of the tables and the objects.
 #pragma once
 
 #include <string>
@@ -16,8 +16,7 @@ class KyRefMemberList;
 
 class KyRefWriteContext {
 public:
-    KyRefWriteContext(KyDbDatabase* database, const KyRefDrawingExtras* extras)
-        : m_database(database), m_extras(extras) {}
+    KyRefWriteContext(KyDbDatabase* database, const KyRefDrawingExtras* extras);
 
     KyDbDatabase* database() const { return m_database; }
     const KyRefDrawingExtras* extras() const { return m_extras; }
@@ -36,12 +35,15 @@ public:
     // as the reader left them.
     bool omitsAdded() const { return m_omitsAdded; }
     void setOmitsAdded(bool omits) { m_omitsAdded = omits; }
-    // True for an object that this save leaves out.
+    // True for an object that this save leaves out: an object the reader
+    // added, and the layer states dictionary, whose states the file keeps in
+    // "layerStates" rather than among the objects.
     bool isLeftOut(KyDbObjectId id) const;
 
 private:
     KyDbDatabase* m_database;
     const KyRefDrawingExtras* m_extras;
+    KyDbObjectId m_layerStates;
     bool m_omitsAdded = false;
     std::unordered_map<const void*, std::string> m_names;
 };

@@ -16,7 +16,7 @@ namespace {
 
 const std::string kOptions =
     "Enter an option [?/Make/Set/New/ON/OFF/Color/Ltype/LWeight/TRansparency/Plot/PStyle/"
-    "Freeze/Thaw/LOck/Unlock/Description/Filter]: ";
+    "Freeze/Thaw/LOck/Unlock/Description/Filter/STate]: ";
 const std::string kColorPrompt = "Enter color name or number (1-255) or [Truecolor/COlorbook]: ";
 const std::string kWalls =
     "color=7 linetype=Continuous lineweight=-3 transparency=0 "

@@ -11,7 +11,7 @@ namespace {
 
 const std::string kOptions =
     "Enter an option [?/Make/Set/New/ON/OFF/Color/Ltype/LWeight/TRansparency/Plot/PStyle/"
-    "Freeze/Thaw/LOck/Unlock/Description/Filter]: ";
+    "Freeze/Thaw/LOck/Unlock/Description/Filter/STate]: ";
 const std::string kListHeader = "Layer name: state, color, linetype, lineweight";
 
 // The layers beside those of kLayerDrawing (0, Walls, Doors, Frozen), in the

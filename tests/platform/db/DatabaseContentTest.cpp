@@ -13,6 +13,7 @@
 #include "db/KyDbDictionaryIterator.h"
 #include "db/KyDbDictionaryWithDefault.h"
 #include "db/KyDbDimStyleTableRecord.h"
+#include "db/KyDbLayerStateManager.h"
 #include "db/KyDbLayout.h"
 #include "db/KyDbLinetypeTableRecord.h"
 #include "db/KyDbMLeaderStyle.h"
@@ -150,7 +151,9 @@ TEST_F(NewDrawingTest, TheHeaderNamesTheStandardItemsAsCurrent) {
     EXPECT_TRUE(db->tilemode());
     EXPECT_TRUE(db->plotStyleMode());
     EXPECT_TRUE(db->ucsBase().isNull());
-    EXPECT_EQ(db->getLayerStateManager(), nullptr);
+    ASSERT_NE(db->getLayerStateManager(), nullptr);
+    EXPECT_TRUE(db->getLayerStateManager()->layerStatesDictionaryId(false).isNull())
+        << "a new drawing has no layer states";
     EXPECT_FALSE(undo()->hasUndo()) << "the new drawing's content can't be taken back";
 }
 
