@@ -104,6 +104,7 @@ const TextRow kPropertyTexts[] = {
     {L"DimBlockId", 9489},
     {L"Items", 9490},
     {L"DecimalPlaces", 9491},
+    {L"LensLength", 9492},
 };
 
 // Local names of the database classes, by class name.
