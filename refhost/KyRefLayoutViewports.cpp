@@ -80,8 +80,11 @@ short KyRefLayoutViewports::currentNumber(KyDbDatabase* database) {
 }
 
 KyDbObjectId KyRefLayoutViewports::entered(KyDbDatabase* database) {
+    if (database == nullptr || database->tilemode()) {
+        return KyDbObjectId();
+    }
     const short number = currentNumber(database);
-    return number > kPaper && !database->tilemode() ? numbered(database, number) : KyDbObjectId();
+    return number > kPaper ? numbered(database, number) : KyDbObjectId();
 }
 
 KyDbObjectId KyRefLayoutViewports::viewHolder(KyDbDatabase* database) {

@@ -1,11 +1,10 @@
 // The view a viewport shows in drawing files: the target, direction and lens
 // length of viewport entities, viewport configurations and views read into
-// their objects and written back, a changed value saved while defaults stay
-// out, and values the drawing can't take refused at their own path.
+// their objects and written back, and values the drawing can't take refused
+// at their own path.
 #include <gtest/gtest.h>
 
 #include "DrawingTestSupport.h"
-#include "db/KyAxDocLock.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbViewTableRecord.h"
 #include "db/KyDbViewport.h"
@@ -91,27 +90,6 @@ TEST(DrawingViews, TheViewMembersAreReadIntoTheirObjectsAndWrittenBackAsTheyWere
     const KyRefJson saved = save(db);
     EXPECT_TRUE(unordered(saved) == unordered(original))
         << nlohmann::json::diff(unordered(original), unordered(saved));
-}
-
-TEST(DrawingViews, AChangedViewIsSavedAndDefaultsStayOut) {
-    const KyRefJson original = withViews({}, {}, {});
-    const Reading reading = read(original);
-    ASSERT_NE(reading.db, nullptr) << reading.error;
-    KyDbDatabase* db = reading.db.get();
-    EXPECT_TRUE(unordered(save(db)) == unordered(original));
-    {
-        KyDbObjectPointer<KyDbViewport> window(idOf(db, 0x41), KyDb::kForWrite);
-        ASSERT_EQ(window->setViewDirection(KyGePoint3d(0, 0, 2)), Kyro::eOk);
-        KyDbObjectPointer<KyDbViewportTableRecord> active(idOf(db, 0x49), KyDb::kForWrite);
-        ASSERT_EQ(active->setLensLength(70.0), Kyro::eOk);
-    }
-    const KyRefJson saved = save(db);
-    const KyRefJson& window = saved["blocks"][1]["entities"][1];
-    EXPECT_EQ(window["direction"], KyRefJson::array({0.0, 0.0, 2.0}));
-    EXPECT_FALSE(window.contains("target"));
-    EXPECT_FALSE(window.contains("lensLength"));
-    EXPECT_EQ(saved["viewports"][0]["lensLength"], 70.0);
-    EXPECT_FALSE(saved["viewports"][0].contains("direction"));
 }
 
 TEST(DrawingViews, AViewTheDrawingCantTakeIsRefusedAtItsPath) {
