@@ -13,6 +13,7 @@
 #include "KyRefPointCommand.h"
 #include "KyRefRecordCommand.h"
 #include "KyRefRedoCommand.h"
+#include "KyRefRepaintCommand.h"
 #include "KyRefSelectCommand.h"
 #include "KyRefSetVarCommand.h"
 #include "KyRefTextCommand.h"
@@ -42,6 +43,7 @@ const KyRefCommandRow kRows[] = {
     {L"POINT", L"PUNKT", 0, &Table::make<KyRefPointCommand>},
     {L"RECORD", L"EINTRAG", 0, &Table::make<KyRefRecordCommand>},
     {L"REDO", L"WIEDERHERSTELLEN", 0, &Table::make<KyRefRedoCommand>},
+    {L"REPAINT", L"AUFFRISCHEN", 0, &Table::make<KyRefRepaintCommand>},
     {L"SELECT", L"WAEHLEN", 0, &Table::make<KyRefSelectCommand>},
     {L"SETVAR", L"VARSETZEN", kCommandTransparent | kCommandWithoutDocument,
      &Table::make<KyRefSetVarCommand>},

@@ -1,8 +1,11 @@
 #include "KyRefHost.h"
 
+#include "KyRefLayoutViewports.h"
 #include "KyRefManualClock.h"
 #include "KyRefSysVarTable.h"
 #include "KyRefVariablesDictionary.h"
+#include "db/KyAxDocLock.h"
+#include "db/KyDbDatabase.h"
 
 namespace {
 
@@ -81,6 +84,58 @@ KyRefSysVarStatus KyRefHost::setVariable(const wchar_t* name, const resbuf& valu
         m_events.raiseSysVarChanged(row->name, false);
     }
     return status;
+}
+
+Kyro::ErrorStatus KyRefHost::enterViewport(KyDbObjectId viewportId, KyString* reason) {
+    KyDbDatabase* database = m_documents->currentDatabase();
+    KyString why;
+    short number = 0;
+    const Kyro::ErrorStatus status =
+        KyRefLayoutViewports::checkEntry(database, viewportId, number, why);
+    if (status != Kyro::eOk) {
+        if (reason != nullptr) {
+            *reason = why;
+        }
+        return status;
+    }
+    return showViewport(number, reason);
+}
+
+Kyro::ErrorStatus KyRefHost::leaveViewport(KyString* reason) {
+    KyDbDatabase* database = m_documents->currentDatabase();
+    if (database == nullptr || database->tilemode()) {
+        if (reason != nullptr) {
+            *reason = database == nullptr ? L"No drawing is open." : L"Model space is shown.";
+        }
+        return database == nullptr ? Kyro::eNoCurrentDocument : Kyro::eNotApplicable;
+    }
+    return showViewport(KyRefLayoutViewports::kPaper, reason);
+}
+
+Kyro::ErrorStatus KyRefHost::showViewport(short number, KyString* reason) {
+    KyDbDatabase* database = m_documents->currentDatabase();
+    if (KyRefLayoutViewports::currentNumber(database) == number) {
+        return Kyro::eOk;
+    }
+    // The host switches viewports itself, under its own lock of the drawing.
+    const KyAxDocLock lock(database);
+    const KyRefSysVarStatus status =
+        setVariable(L"CVPORT", *KyRefResbuf::makeShort(number), 0, reason);
+    if (status != KyRefSysVarStatus::kOk) {
+        return Kyro::eNotApplicable;
+    }
+    // Inside a command its end asks for the refresh.
+    if (!isGatheringChanges()) {
+        m_events.raiseRefreshNeeded(false);
+    }
+    return Kyro::eOk;
+}
+
+void KyRefHost::regenerateAll() {
+    if (m_regeneration != nullptr) {
+        m_regeneration->regenerateAll();
+    }
+    m_events.raiseInvalidateAll();
 }
 
 void KyRefHost::beginChangeReport() {

@@ -15,6 +15,13 @@
 // are told once, when the command ends. A change of CTAB is followed by
 // layoutChanged, of the current UCS (UCSNAME, UCSORG, UCSXDIR, UCSYDIR) by
 // one ucsChanged.
+//
+// Layouts and viewports. Any layout becomes current through CTAB (the plot
+// service's setLayoutByName writes it too): TILEMODE follows, and CVPORT
+// shows the paper of a layout or the tiled viewport of model space. On a
+// layout the user enters one of its viewports, as a click into it does
+// (enterViewport), and leaves it for the paper (leaveViewport): CVPORT
+// changes, sysVarChanged tells it, and refreshNeeded follows.
 #pragma once
 
 #include <memory>
@@ -93,6 +100,19 @@ public:
     // CMDNAMES: the commands running or waiting, joined by "'".
     KyString commandNames() const;
 
+    // Makes the viewport entity `viewportId` of the layout shown current. A
+    // viewport of another layout (or any, in model space), the paper
+    // viewport, a viewport that is off or erased, or something else is
+    // refused with its status, and `reason` says why as the user reads it.
+    Kyro::ErrorStatus enterViewport(KyDbObjectId viewportId, KyString* reason = nullptr);
+    // Leaves the viewport entered for the paper of the layout; eNotApplicable
+    // in model space, eOk when the paper is current already.
+    Kyro::ErrorStatus leaveViewport(KyString* reason = nullptr);
+    // Regenerates the whole drawing, as after a restored view or REPAINT:
+    // with no display to redraw, the regeneration service counts it, and
+    // the reactors hear invalidateAll.
+    void regenerateAll();
+
     // Writes a system variable as the host does outside a command: the
     // change is told at once (see above). Inside a command it is told with
     // the command's other changes.
@@ -116,6 +136,9 @@ public:
     void currentDocumentChanged();
 
 private:
+    // Makes the viewport `number` of the layout shown current (CVPORT).
+    Kyro::ErrorStatus showViewport(short number, KyString* reason);
+
     KyRefHostEvents m_events;
     KyRefCommandLine m_commandLine;
     KyRefSysVarStore m_sysVars;

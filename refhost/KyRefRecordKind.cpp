@@ -115,7 +115,8 @@ KyDbObjectId blockOfLayout(KyDbObjectId layoutId) {
     return layout ? layout->getBlockTableRecordId() : KyDbObjectId();
 }
 
-// The host shows the layout of *Paper_Space and no other: that one stays.
+// The layout of *Paper_Space is the paper layout the drawing shows, or shows
+// again when TILEMODE goes off: that one stays.
 void layoutCheckErase(KyRefCommandContext& context, KyDbObjectId id, const KyString& name) {
     KyRefReadAccess<KyDbBlockTableRecord> block(blockOfLayout(id));
     if (block && block->name().compareNoCase(KyDbStandardContent::kPaperSpaceName) == 0) {

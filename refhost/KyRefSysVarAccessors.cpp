@@ -6,20 +6,18 @@
 #include "KyRefDocument.h"
 #include "KyRefDocumentManager.h"
 #include "KyRefHost.h"
+#include "KyRefLayoutViewports.h"
 #include "KyRefNamedItem.h"
 #include "KyRefReadAccess.h"
 #include "KyRefReservedWords.h"
 #include "KyRefSysVarStore.h"
 #include "KyRefTransparencyText.h"
-#include "db/KyDbBlockTableRecord.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbDictionary.h"
 #include "db/KyDbDictionaryIterator.h"
 #include "db/KyDbLayerTableRecord.h"
 #include "db/KyDbLayout.h"
 #include "db/KyDbScale.h"
-#include "db/KyDbStandardContent.h"
-#include "db/KyDbSymbolTable.h"
 #include "rx/KyRxValue.h"
 
 namespace {
@@ -157,12 +155,17 @@ Status setShadow(const Access& access, const resbuf& value, KyString& error) {
 
 // Model space shows in the tiled viewport 2; a layout shows its paper space
 // viewport 1 until a viewport of it is entered.
+Status showFirstViewport(KyDbDatabase* db, KyString& error) {
+    const short number =
+        db->tilemode() ? KyRefLayoutViewports::kModel : KyRefLayoutViewports::kPaper;
+    return fromDatabase(db->setHeaderVar(L"CVPORT", KyRxValue(number)), error);
+}
+
 Status showSpace(KyDbDatabase* db, bool model, KyString& error) {
     if (const Status status = fromDatabase(db->setTilemode(model), error); status != Status::kOk) {
         return status;
     }
-    return fromDatabase(db->setHeaderVar(L"CVPORT", KyRxValue(static_cast<short>(model ? 2 : 1))),
-                        error);
+    return showFirstViewport(db, error);
 }
 
 Status getTileMode(const Access& access, KyRefResbufPtr& out) {
@@ -222,33 +225,59 @@ Status getLayout(const Access& access, KyRefResbufPtr& out) {
 Status setLayout(const Access& access, const resbuf& value, KyString& error) {
     const KyString name = textOf(value);
     KyRefReadAccess<KyDbDictionary> layouts(access.database->layoutDictionaryId());
-    KyDbObjectId blockId;
-    bool found = false;
+    KyDbObjectId layoutId;
     if (layouts) {
-        for (KyDbDictionaryIterator it(layouts.object()); !it.done() && !found; it.next()) {
+        for (KyDbDictionaryIterator it(layouts.object()); !it.done() && layoutId.isNull();
+             it.next()) {
             KyRefReadAccess<KyDbLayout> layout(it.objectId());
             if (layout && layout->layoutName().compareNoCase(name) == 0) {
-                blockId = layout->getBlockTableRecordId();
-                found = true;
+                layoutId = it.objectId();
             }
         }
     }
-    if (!found) {
+    if (layoutId.isNull()) {
         error.format(L"Cannot find layout \"%ls\".", name.kwszPtr());
         return Status::kInvalidValue;
     }
-    KyRefReadAccess<KyDbBlockTableRecord> block(blockId);
-    const KyString blockName = block ? block->name() : KyString();
-    if (blockName.compareNoCase(KyDbStandardContent::kModelSpaceName) == 0) {
-        return showSpace(access.database, true, error);
+    if (const Status status =
+            fromDatabase(kydbSetCurrentLayoutId(access.database, layoutId), error);
+        status != Status::kOk) {
+        return status;
     }
-    if (blockName.compareNoCase(KyDbStandardContent::kPaperSpaceName) == 0) {
-        return showSpace(access.database, false, error);
+    return showFirstViewport(access.database, error);
+}
+
+// ---- The current viewport
+
+Status getViewport(const Access& access, KyRefResbufPtr& out) {
+    out = KyRefResbuf::makeShort(KyRefLayoutViewports::currentNumber(access.database));
+    return Status::kOk;
+}
+
+// Model space has its one tiled viewport; a layout its paper and the
+// viewports that can be entered.
+Status checkViewport(const Access& access, const resbuf& value, KyString& error) {
+    KyDbDatabase* db = access.database;
+    const short number = value.resval.rint;
+    if (db->tilemode()) {
+        if (number == KyRefLayoutViewports::kModel) {
+            return Status::kOk;
+        }
+        error.format(L"Model space shows viewport %d only.", KyRefLayoutViewports::kModel);
+        return Status::kInvalidValue;
     }
-    // Only the layout of *Paper_Space can be shown: another layout would have
-    // to take that block's place first.
-    error.format(L"Cannot switch to layout \"%ls\".", name.kwszPtr());
-    return Status::kInvalidValue;
+    if (number == KyRefLayoutViewports::kPaper) {
+        return Status::kOk;
+    }
+    const KyDbObjectId id = KyRefLayoutViewports::numbered(db, number);
+    if (id.isNull()) {
+        error.format(L"The layout has no viewport %d.", static_cast<int>(number));
+        return Status::kInvalidValue;
+    }
+    short entered = 0;
+    return KyRefLayoutViewports::checkEntry(db, id, entered, error) == Kyro::eOk
+               ? Status::kOk
+               : Status::kInvalidValue;
 }
 
 // ---- Computed by the host
@@ -297,6 +326,7 @@ const KyRefSysVarAccessor kAnnotationScale{nullptr, checkAnnotationScale, nullpt
 const KyRefSysVarAccessor kPlotStyle{nullptr, checkPlotStyle, nullptr};
 
 const KyRefSysVarAccessor kLayout{getLayout, nullptr, setLayout};
+const KyRefSysVarAccessor kViewport{getViewport, checkViewport, nullptr};
 
 const KyRefSysVarAccessor kCommandNames{getCommandNames, nullptr, nullptr};
 const KyRefSysVarAccessor kDrawingName{getDrawingName, nullptr, nullptr};

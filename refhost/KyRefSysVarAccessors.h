@@ -34,6 +34,9 @@ extern const KyRefSysVarAccessor kPlotStyle;
 
 // The current layout: switching it changes the space shown.
 extern const KyRefSysVarAccessor kLayout;
+// The current viewport (CVPORT): read as the layout shows it, written only
+// with the number of a viewport that can be current (KyRefLayoutViewports).
+extern const KyRefSysVarAccessor kViewport;
 
 // Computed by the host.
 extern const KyRefSysVarAccessor kCommandNames;

@@ -64,7 +64,7 @@ const KyRefSysVarRow kRows[] = {
     // Space, layouts and viewports.
     {L"TILEMODE", kShort, kDrawing, L"1", 0, 1, 0, nullptr, &Acc::kTileMode},
     {L"CTAB", kText, kDrawing, L"Model", kNoMin, kNoMax, 0, nullptr, &Acc::kLayout},
-    {L"CVPORT", kShort, kDrawing, L"2", 1, 32767},
+    {L"CVPORT", kShort, kDrawing, L"2", 1, 32767, 0, nullptr, &Acc::kViewport},
     {L"PSTYLEMODE", kShort, kDrawing, L"1", 0, 1, kComputed, nullptr, &Acc::kPlotStyleMode},
     {L"RASTERDPI", kShort, kDrawing, L"300", 100, 32767},
     {L"UCSNAME", kText, kDrawing, L"", kNoMin, kNoMax, kReadOnly},
@@ -171,6 +171,8 @@ const KyRefSysVarRow kRows[] = {
     {L"OSMODE", kShort, kSession, L"0", 0, 16383},
     {L"LASTPOINT", kPoint3d, kSession, L"0,0,0"},
     {L"VIEWRES", kLong, kSession, L"1000", 1, 20000},
+    // Whether the drawing window shows its navigation box (1) or not (0).
+    {L"NAVBOX", kShort, kSession, L"1", 0, 1},
 };
 
 }  // namespace

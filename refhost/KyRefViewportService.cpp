@@ -1,20 +1,35 @@
 #include "KyRefViewportService.h"
 
 #include <cmath>
+#include <memory>
 
 #include "KyRefDocumentManager.h"
 #include "KyRefHost.h"
+#include "KyRefLayoutViewports.h"
 #include "KyRefReadAccess.h"
+#include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
+#include "db/KyDbObjectPointer.h"
 #include "db/KyDbSymbolTable.h"
 #include "db/KyDbViewTableRecord.h"
+#include "db/KyDbViewport.h"
+#include "db/KyDbViewportTableRecord.h"
 
 namespace {
 
-constexpr double kTolerance = 1e-9;
-
-bool same(double a, double b) {
-    return std::fabs(a - b) <= kTolerance;
+// Adds the active configuration "*Active" to a drawing that lacks it, with
+// the default view; answers its id.
+Kyro::ErrorStatus addActiveRecord(KyDbDatabase* database, KyDbObjectId& id) {
+    KyDbObjectPointer<KyDbSymbolTable> viewports(database->viewportTableId(), KyDb::kForWrite);
+    if (!viewports) {
+        return viewports.openStatus();
+    }
+    auto record = std::make_unique<KyDbViewportTableRecord>();
+    record->setName(L"*Active");
+    if (const Kyro::ErrorStatus status = viewports->add(id, record.get()); status != Kyro::eOk) {
+        return status;
+    }
+    return record.release()->close();
 }
 
 }  // namespace
@@ -24,103 +39,156 @@ KyRefViewportService::KyRefViewportService(KyRefHost& host) : m_host(host) {
 }
 
 Kyro::ErrorStatus KyRefViewportService::getCurrentViewportId(KyDbObjectId& out) {
-    out = m_currentViewport;
-    if (!out.isNull()) {
-        return Kyro::eOk;
-    }
+    KyDbDatabase* database = m_host.documents().currentDatabase();
+    out = KyRefLayoutViewports::viewHolder(database);
+    return database != nullptr ? Kyro::eOk : Kyro::eNoCurrentDocument;
+}
+
+Kyro::ErrorStatus KyRefViewportService::viewportId(KyDbObjectId& out) {
+    KyDbDatabase* database = m_host.documents().currentDatabase();
+    out = database != nullptr ? KyRefLayoutViewports::entered(database) : KyDbObjectId();
+    return database != nullptr ? Kyro::eOk : Kyro::eNoCurrentDocument;
+}
+
+Kyro::ErrorStatus KyRefViewportService::viewportKey(KyDbObjectId& out) {
+    return getCurrentViewportId(out);
+}
+
+Kyro::ErrorStatus KyRefViewportService::currentView(KyRefView& out) const {
+    out = KyRefView();
     KyDbDatabase* database = m_host.documents().currentDatabase();
     if (database == nullptr) {
         return Kyro::eNoCurrentDocument;
     }
-    if (database->tilemode()) {
-        KyRefReadAccess<KyDbSymbolTable> viewports(database->viewportTableId());
-        if (viewports) {
-            viewports->getAt(L"*Active", out);
-        }
-    }
-    return Kyro::eOk;
-}
-
-Kyro::ErrorStatus KyRefViewportService::viewportId(KyDbObjectId& out) {
-    out = m_viewportEntity;
-    return Kyro::eOk;
-}
-
-Kyro::ErrorStatus KyRefViewportService::viewportKey(KyDbObjectId& out) {
-    if (!m_viewportEntity.isNull()) {
-        out = m_viewportEntity;
+    const KyDbObjectId id = KyRefLayoutViewports::viewHolder(database);
+    if (id.isNull()) {
         return Kyro::eOk;
     }
-    return getCurrentViewportId(out);
+    KyRefReadAccess<KyDbObject> holder(id);
+    return holder ? KyRefView::read(holder.object(), out) : holder.status();
+}
+
+Kyro::ErrorStatus KyRefViewportService::changeView(const Change& change) {
+    KyDbDatabase* database = m_host.documents().currentDatabase();
+    if (database == nullptr) {
+        return Kyro::eNoCurrentDocument;
+    }
+    const KyAxDocLock lock(database);
+    if (lock.lockStatus() != Kyro::eOk) {
+        return lock.lockStatus();
+    }
+    KyDbObjectId id = KyRefLayoutViewports::viewHolder(database);
+    if (id.isNull()) {
+        if (!database->tilemode()) {
+            return Kyro::eNotApplicable;
+        }
+        if (const Kyro::ErrorStatus status = addActiveRecord(database, id); status != Kyro::eOk) {
+            return status;
+        }
+    }
+    KyDbObjectPointer<KyDbObject> holder(id, KyDb::kForWrite);
+    if (!holder) {
+        return holder.openStatus();
+    }
+    if (const auto* viewport = kyrxCast<KyDbViewport>(holder.object());
+        viewport != nullptr && viewport->isLocked()) {
+        return Kyro::eNotApplicable;
+    }
+    KyRefView view;
+    if (const Kyro::ErrorStatus status = KyRefView::read(holder.object(), view);
+        status != Kyro::eOk) {
+        return status;
+    }
+    if (const Kyro::ErrorStatus status = change(view); status != Kyro::eOk) {
+        return status;
+    }
+    return view.writeTo(holder.object());
 }
 
 bool KyRefViewportService::matchesView(const KyDbViewTableRecord* view) {
-    return view != nullptr && view->centerPoint() == m_view.center &&
-           same(view->height(), m_view.height) && same(view->width(), m_view.width) &&
-           view->target() == m_view.target && view->viewDirection() == m_view.direction;
+    KyRefView shown;
+    if (view == nullptr || currentView(shown) != Kyro::eOk) {
+        return false;
+    }
+    // A viewport entity's view is as wide as its window: only a record keeps
+    // a width of its own.
+    return shown.shows(*view, m_host.documents().currentDatabase()->tilemode());
 }
 
 Kyro::ErrorStatus KyRefViewportService::restoreView(const KyDbObjectId& viewId) {
-    KyRefReadAccess<KyDbViewTableRecord> view(viewId);
-    if (!view) {
-        return view.status();
+    KyRefView restored;
+    {
+        KyRefReadAccess<KyDbViewTableRecord> view(viewId);
+        if (!view) {
+            return view.status();
+        }
+        restored = KyRefView::of(*view.object());
     }
-    m_view.center = view->centerPoint();
-    m_view.height = view->height();
-    m_view.width = view->width();
-    m_view.target = view->target();
-    m_view.direction = view->viewDirection();
-    return Kyro::eOk;
+    const Kyro::ErrorStatus status = changeView([&restored](KyRefView& view) {
+        view = restored;
+        return Kyro::eOk;
+    });
+    if (status == Kyro::eOk) {
+        m_host.regenerateAll();
+    }
+    return status;
 }
 
 Kyro::ErrorStatus KyRefViewportService::getViewPoint(KyGePoint3d& out, int selector) {
-    if (selector == kViewCenter) {
-        out = m_view.center;
-        return Kyro::eOk;
+    if (selector != kViewCenter && selector != kCameraLocation) {
+        return Kyro::eInvalidInput;
     }
-    if (selector == kCameraLocation) {
-        out.set(m_view.target.x + m_view.direction.x, m_view.target.y + m_view.direction.y,
-                m_view.target.z + m_view.direction.z);
-        return Kyro::eOk;
-    }
-    return Kyro::eInvalidInput;
+    KyRefView view;
+    const Kyro::ErrorStatus status = currentView(view);
+    out = selector == kViewCenter ? view.center : view.camera();
+    return status;
 }
 
 Kyro::ErrorStatus KyRefViewportService::setViewPoint(const KyGePoint3d& point, int selector) {
     if (selector == kViewCenter) {
-        m_view.center = point;
-        return Kyro::eOk;
+        return changeView([&point](KyRefView& view) {
+            view.center = point;
+            return Kyro::eOk;
+        });
     }
     if (selector == kCameraLocation) {
-        const KyGePoint3d direction(point.x - m_view.target.x, point.y - m_view.target.y,
-                                    point.z - m_view.target.z);
-        if (direction == KyGePoint3d::kOrigin) {
-            return Kyro::eInvalidInput;
-        }
-        m_view.direction = direction;
-        return Kyro::eOk;
+        return changeView([&point](KyRefView& view) {
+            const KyGePoint3d direction(point.x - view.target.x, point.y - view.target.y,
+                                        point.z - view.target.z);
+            if (direction == KyGePoint3d::kOrigin) {
+                return Kyro::eInvalidInput;
+            }
+            view.direction = direction;
+            return Kyro::eOk;
+        });
     }
     return Kyro::eInvalidInput;
 }
 
 bool KyRefViewportService::isNavBoxOff(KyDbDatabase*) {
-    return m_navBoxOff;
+    KyRefResbufPtr value;
+    return m_host.sysVars().get(L"NAVBOX", value) == KyRefSysVarStatus::kOk &&
+           value->resval.rint == 0;
 }
 
-bool KyRefViewportService::isViewLocked(KyDbDatabase*) {
-    return m_viewLocked;
+bool KyRefViewportService::isViewLocked(KyDbDatabase* database) {
+    KyRefReadAccess<KyDbViewport> viewport(KyRefLayoutViewports::viewHolder(database));
+    return viewport && viewport->isLocked();
 }
 
 double KyRefViewportService::getLensLength() {
-    return m_lensLength;
+    KyRefView view;
+    return currentView(view) == Kyro::eOk ? view.lensLength : 0.0;
 }
 
 Kyro::ErrorStatus KyRefViewportService::setLensLength(double length) {
     if (!(length > 0.0) || !std::isfinite(length)) {
         return Kyro::eInvalidInput;
     }
-    m_lensLength = length;
-    return Kyro::eOk;
+    return changeView([length](KyRefView& view) {
+        view.lensLength = length;
+        return Kyro::eOk;
+    });
 }
 
 Kyro::ErrorStatus KyRefViewportService::getExposureParameters(

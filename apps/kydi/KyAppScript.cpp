@@ -91,6 +91,7 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"clock", 1, 1, "clock +MS", &Script::clock},
         {"echo", 0, -1, "echo TEXT", &Script::echo},
         {"select", 0, -1, "select HANDLE...", &Script::select},
+        {"viewport", 0, 1, "viewport [HANDLE]", &Script::viewport},
         {"log", 0, 0, "log", &Script::log},
         {"watch", 1, 2,
          "watch host|sysvar NAME|object HANDLE|collection NAME|context NAME|contexts",
@@ -276,6 +277,22 @@ bool KyAppScript::select(const KyAppStatement& statement) {
     }
     selection->setSelection(ids);
     return true;
+}
+
+bool KyAppScript::viewport(const KyAppStatement& statement) {
+    if (currentDocument() == nullptr) {
+        return fail("no document is open");
+    }
+    KyString reason;
+    if (statement.words.empty()) {
+        return m_session.host().leaveViewport(&reason) == Kyro::eOk || fail(reason.utf8());
+    }
+    KyDbObjectId id;
+    std::string error;
+    if (!objectOf(statement.words[0], id, error)) {
+        return fail(error);
+    }
+    return m_session.host().enterViewport(id, &reason) == Kyro::eOk || fail(reason.utf8());
 }
 
 bool KyAppScript::log(const KyAppStatement&) {

@@ -14,6 +14,8 @@
 //   clock +MS          moves the host's manual clock
 //   echo TEXT          prints TEXT
 //   select HANDLE...   sets the selection of the current document
+//   viewport [HANDLE]  enters a viewport of the layout shown, as a click into it
+//                      does; alone it goes back to the paper
 //   log                the host's command line since the last log, each line behind "| "
 //   watch host | sysvar NAME | object HANDLE | collection NAME | context NAME | contexts
 //   prompts on|off     whether the current document can take a prompt
@@ -103,6 +105,7 @@ private:
     bool clock(const KyAppStatement& statement);
     bool echo(const KyAppStatement& statement);
     bool select(const KyAppStatement& statement);
+    bool viewport(const KyAppStatement& statement);
     bool log(const KyAppStatement& statement);
     bool watch(const KyAppStatement& statement);
     bool sysvar(const KyAppStatement& statement);

@@ -1,5 +1,7 @@
 #include "db/KyDbAbstractViewTableRecord.h"
 
+#include <cmath>
+
 #include "db/KyDbClassSupport.h"
 #include "db/KyDbRecordReference.h"
 #include "db/KyDbStateFiler.h"
@@ -26,6 +28,10 @@ const KyDbPropertyRow kAbstractViewTableRecordRows[] = {
      kydbiAccess<&KyDbAbstractViewTableRecord::viewDirection,
                  &KyDbAbstractViewTableRecord::setViewDirection>(),
      KyDbCategory::kGeometry, 5},
+    {L"LensLength",
+     kydbiAccess<&KyDbAbstractViewTableRecord::lensLength,
+                 &KyDbAbstractViewTableRecord::setLensLength>(),
+     KyDbCategory::kGeometry, 7},
     {L"SunId",
      kydbiAccess<&KyDbAbstractViewTableRecord::sunId, &KyDbAbstractViewTableRecord::setSun>()},
 };
@@ -62,6 +68,11 @@ Kyro::ErrorStatus KyDbAbstractViewTableRecord::setViewDirection(const KyGePoint3
     return setMember(m_direction, direction);
 }
 
+Kyro::ErrorStatus KyDbAbstractViewTableRecord::setLensLength(double length) {
+    return length > 0.0 && std::isfinite(length) ? setMember(m_lensLength, length)
+                                                 : Kyro::eInvalidInput;
+}
+
 Kyro::ErrorStatus KyDbAbstractViewTableRecord::setSun(KyDbObjectId sunId) {
     if (!sunId.isNull()) {
         if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
@@ -84,6 +95,7 @@ void KyDbAbstractViewTableRecord::subSaveState(KyDbStateFiler& filer) const {
     filer.write(m_sun);
     filer.write(m_height);
     filer.write(m_width);
+    filer.write(m_lensLength);
 }
 
 Kyro::ErrorStatus KyDbAbstractViewTableRecord::subRestoreState(KyDbStateFiler& filer) {
@@ -97,5 +109,6 @@ Kyro::ErrorStatus KyDbAbstractViewTableRecord::subRestoreState(KyDbStateFiler& f
     filer.read(m_sun);
     filer.read(m_height);
     filer.read(m_width);
+    filer.read(m_lensLength);
     return filer.status();
 }

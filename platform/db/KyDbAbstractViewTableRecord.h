@@ -1,6 +1,7 @@
 // KyDbAbstractViewTableRecord: what views and viewport configurations share:
 // the centre of the view (in its own plane), its height and width, the
-// target point, the direction from the target to the viewer, and a sun.
+// target point, the direction from the target to the viewer, the lens length
+// of the camera, and a sun.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -25,6 +26,10 @@ public:
     // down on the plan.
     const KyGePoint3d& viewDirection() const { return m_direction; }
     Kyro::ErrorStatus setViewDirection(const KyGePoint3d& direction);
+    // The lens length of the camera in millimetres (50 unless set); a length
+    // that isn't positive answers eInvalidInput.
+    double lensLength() const { return m_lensLength; }
+    Kyro::ErrorStatus setLensLength(double length);
     // A sun object of the database, or null.
     KyDbObjectId sunId() const { return m_sun; }
     Kyro::ErrorStatus setSun(KyDbObjectId sunId);
@@ -41,4 +46,5 @@ private:
     KyDbObjectId m_sun;
     double m_height = 1.0;
     double m_width = 1.0;
+    double m_lensLength = 50.0;
 };

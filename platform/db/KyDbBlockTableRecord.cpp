@@ -79,6 +79,14 @@ void KyDbBlockTableRecord::setXrefDatabase(KyDbDatabase* database) {
     m_xrefSerial = database != nullptr ? database->serial() : 0;
 }
 
+Kyro::ErrorStatus KyDbBlockTableRecord::takePaperSpaceName(KyDbBlockTableRecord* paperSpace) {
+    if (paperSpace == nullptr || !isLayout() || isSpaceBlock() ||
+        paperSpace->name().compareNoCase(KyDbStandardContent::kPaperSpaceName) != 0) {
+        return Kyro::eNotApplicable;
+    }
+    return swapNames(*paperSpace);
+}
+
 bool KyDbBlockTableRecord::isSpaceBlock() const {
     return name().compareNoCase(KyDbStandardContent::kModelSpaceName) == 0 ||
            name().compareNoCase(KyDbStandardContent::kPaperSpaceName) == 0;

@@ -1,7 +1,9 @@
 // KyDbBlockTableRecord: a block: a base point, a description, and the
 // entities it holds, in drawing order. A block is a layout's block when it has
 // a layout (*Model_Space, *Paper_Space ...), an external reference when it has
-// a path. *Model_Space and *Paper_Space can't be renamed or erased.
+// a path. *Model_Space and *Paper_Space can't be renamed or erased; the name
+// *Paper_Space goes to the block of the paper layout the drawing shows
+// (kydbSetCurrentLayoutId), from one layout's block to another.
 //
 // Entities are never taken out of the list: an erased entity keeps its place.
 // The block keeps the ids of the block references that point at it.
@@ -32,6 +34,11 @@ public:
     KyDbObjectId getLayoutId() const { return m_layout; }
     Kyro::ErrorStatus setLayoutId(KyDbObjectId layoutId);
     bool isLayout() const { return !m_layout.isNull(); }
+    // Makes this block, a paper layout's block, *Paper_Space: it takes that
+    // name from `paperSpace`, which takes this block's name. Both open for
+    // write (eWasNotOpenForWrite); eNotApplicable unless this block belongs to
+    // a layout other than model space and `paperSpace` is *Paper_Space.
+    Kyro::ErrorStatus takePaperSpaceName(KyDbBlockTableRecord* paperSpace);
 
     // The path of the drawing an external reference shows; empty otherwise.
     const KyString& pathName() const { return m_path; }

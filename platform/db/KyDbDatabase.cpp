@@ -13,8 +13,10 @@
 #include "db/KyDbHostApplicationServices.h"
 #include "db/KyDbLayerStateManager.h"
 #include "db/KyDbLayerTable.h"
+#include "db/KyDbLayout.h"
 #include "db/KyDbLinetypeTable.h"
 #include "db/KyDbObjectAccess.h"
+#include "db/KyDbObjectPointer.h"
 #include "db/KyDbOpenObject.h"
 #include "db/KyDbRecordReference.h"
 #include "db/KyDbStandardContent.h"
@@ -552,6 +554,56 @@ KyDbObjectId kydbCurrentLayoutId(const KyDbDatabase* database) {
         return KyDbObjectId();
     }
     return static_cast<const KyDbBlockTableRecord*>(blockId.stub()->object)->getLayoutId();
+}
+
+Kyro::ErrorStatus kydbSetCurrentLayoutId(KyDbDatabase* database, KyDbObjectId layoutId) {
+    if (layoutId.isNull()) {
+        return Kyro::eNullObjectId;
+    }
+    if (database == nullptr || layoutId.database() != database || !layoutId.isValid()) {
+        return Kyro::eWrongDatabase;
+    }
+    if (layoutId.isErased()) {
+        return Kyro::eWasErased;
+    }
+    if (!KyRxClass::isDerivedFrom(layoutId.objectClass(), KyDbLayout::desc())) {
+        return Kyro::eNotThatKindOfClass;
+    }
+    if (const Kyro::ErrorStatus status = database->checkWriteLock(); status != Kyro::eOk) {
+        return status;
+    }
+    KyDbObjectId blockId;
+    bool model = false;
+    {
+        KyDbObjectPointer<KyDbLayout> layout(layoutId, KyDb::kForRead);
+        if (!layout) {
+            return layout.openStatus();
+        }
+        blockId = layout->getBlockTableRecordId();
+        model = layout->modelType();
+    }
+    if (model) {
+        return database->setTilemode(true);
+    }
+    KyDbObjectId paperId;
+    {
+        KyDbObjectPointer<KyDbSymbolTable> blocks(database->blockTableId(), KyDb::kForRead);
+        if (!blocks || blocks->getAt(KyDbStandardContent::kPaperSpaceName, paperId) != Kyro::eOk) {
+            return Kyro::eNotApplicable;
+        }
+    }
+    if (blockId != paperId) {
+        KyDbObjectPointer<KyDbBlockTableRecord> block(blockId, KyDb::kForWrite);
+        KyDbObjectPointer<KyDbBlockTableRecord> paper(paperId, KyDb::kForWrite);
+        if (!block || !paper) {
+            return !block ? block.openStatus() : paper.openStatus();
+        }
+        if (const Kyro::ErrorStatus status = block->takePaperSpaceName(paper.object());
+            status != Kyro::eOk) {
+            return status;
+        }
+    }
+    return database->setTilemode(false);
 }
 
 bool kydbIsLiveDatabase(const KyDbDatabase* database, std::uint64_t serial) {

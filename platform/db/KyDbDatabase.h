@@ -249,6 +249,15 @@ private:
 // The layout of the space that is current: the layout of *Model_Space when
 // tilemode is on, the layout of *Paper_Space otherwise; null without one.
 KYPLATFORM_API KyDbObjectId kydbCurrentLayoutId(const KyDbDatabase* database);
+// Makes `layoutId` the current layout: the model layout turns tilemode on; a
+// paper layout's block takes the name *Paper_Space from the block that had
+// it (KyDbBlockTableRecord::takePaperSpaceName), and tilemode goes off. Both
+// blocks are written, and the header, as any write: inside the document lock
+// where the database requires it. eNullObjectId, eWrongDatabase, eWasErased,
+// eNotThatKindOfClass (not a layout), eNotApplicable (a drawing without
+// *Paper_Space), or the status of a write.
+KYPLATFORM_API Kyro::ErrorStatus kydbSetCurrentLayoutId(KyDbDatabase* database,
+                                                        KyDbObjectId layoutId);
 
 // True when `database` is a database that has not been deleted, and its
 // serial number is `serial`.

@@ -105,6 +105,7 @@ const TextRow kPropertyTexts[] = {
     {L"Items", 9490},
     {L"DecimalPlaces", 9491},
     {L"Mask", 9492},
+    {L"LensLength", 9493},
 };
 
 // Local names of the database classes, by class name.

@@ -1,5 +1,7 @@
 #include "db/KyDbSymbolTableRecord.h"
 
+#include <utility>
+
 #include "db/KyDbBlockTable.h"
 #include "db/KyDbBlockTableRecord.h"
 #include "db/KyDbClassSupport.h"
@@ -72,6 +74,30 @@ Kyro::ErrorStatus KyDbSymbolTableRecord::setName(const wchar_t* name) {
         table->indexAdd(name, objectId());
     }
     m_name = name;
+    return Kyro::eOk;
+}
+
+Kyro::ErrorStatus KyDbSymbolTableRecord::swapNames(KyDbSymbolTableRecord& other) {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (const Kyro::ErrorStatus status = other.checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (isErased() || other.isErased()) {
+        return Kyro::eWasErased;
+    }
+    KyDbSymbolTable* table = ownerTable();
+    if (table == nullptr || other.ownerTable() != table || &other == this) {
+        return Kyro::eNotApplicable;
+    }
+    assertWriteEnabled();
+    other.assertWriteEnabled();
+    table->indexRemove(m_name, objectId());
+    table->indexRemove(other.m_name, other.objectId());
+    std::swap(m_name, other.m_name);
+    table->indexAdd(m_name, objectId());
+    table->indexAdd(other.m_name, other.objectId());
     return Kyro::eOk;
 }
 

@@ -32,6 +32,11 @@ protected:
 
     // A standard record answers eCannotBeRenamed here.
     virtual Kyro::ErrorStatus subCheckRename(const wchar_t* newName) const;
+    // Gives this record the name of `other` and `other` this one's, past the
+    // checks of setName: how a drawing hands a fixed name from one record to
+    // another. Both open for write (eWasNotOpenForWrite), not erased
+    // (eWasErased), in one table (eNotApplicable).
+    Kyro::ErrorStatus swapNames(KyDbSymbolTableRecord& other);
     // The table the record stands in; null before it is added.
     KyDbSymbolTable* ownerTable() const;
 

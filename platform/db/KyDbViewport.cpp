@@ -1,5 +1,6 @@
 #include "db/KyDbViewport.h"
 
+#include <cmath>
 #include <memory>
 
 #include "db/KyDbBlockTableRecord.h"
@@ -30,6 +31,12 @@ const KyDbPropertyRow kViewportRows[] = {
      KyDbCategory::kGeometry, 4},
     {L"ViewHeight", kydbiAccess<&Viewport::viewHeight, &Viewport::setViewHeight>(),
      KyDbCategory::kGeometry, 5},
+    {L"Target", kydbiAccess<&Viewport::viewTarget, &Viewport::setViewTarget>(),
+     KyDbCategory::kGeometry, 6},
+    {L"Direction", kydbiAccess<&Viewport::viewDirection, &Viewport::setViewDirection>(),
+     KyDbCategory::kGeometry, 7},
+    {L"LensLength", kydbiAccess<&Viewport::lensLength, &Viewport::setLensLength>(),
+     KyDbCategory::kGeometry, 8},
     {L"IsOn", kydbiAccess<&Viewport::isOn, &Viewport::setOn>(), KyDbCategory::kMisc, 1},
     {L"IsLocked", kydbiAccess<&Viewport::isLocked, &Viewport::setLocked>(), KyDbCategory::kMisc, 2},
     {L"VisualStyleId", kydbiAccess<&Viewport::visualStyleId, &Viewport::setVisualStyle>(),
@@ -66,6 +73,20 @@ Kyro::ErrorStatus KyDbViewport::setViewCenter(const KyGePoint3d& center) {
 
 Kyro::ErrorStatus KyDbViewport::setViewHeight(double height) {
     return height > 0.0 ? setMember(m_viewHeight, height) : Kyro::eInvalidInput;
+}
+
+Kyro::ErrorStatus KyDbViewport::setViewTarget(const KyGePoint3d& target) {
+    return setMember(m_viewTarget, target);
+}
+
+Kyro::ErrorStatus KyDbViewport::setViewDirection(const KyGePoint3d& direction) {
+    return direction == KyGePoint3d::kOrigin ? Kyro::eInvalidInput
+                                             : setMember(m_viewDirection, direction);
+}
+
+Kyro::ErrorStatus KyDbViewport::setLensLength(double length) {
+    return length > 0.0 && std::isfinite(length) ? setMember(m_lensLength, length)
+                                                 : Kyro::eInvalidInput;
 }
 
 Kyro::ErrorStatus KyDbViewport::setOn(bool on) {
@@ -189,6 +210,9 @@ void KyDbViewport::subSaveState(KyDbStateFiler& filer) const {
     filer.write(m_width);
     filer.write(m_height);
     filer.write(m_viewHeight);
+    filer.write(m_viewTarget);
+    filer.write(m_viewDirection);
+    filer.write(m_lensLength);
     filer.write(m_on);
     filer.write(m_locked);
     filer.writeArray(m_frozenLayers);
@@ -206,6 +230,9 @@ Kyro::ErrorStatus KyDbViewport::subRestoreState(KyDbStateFiler& filer) {
     filer.read(m_width);
     filer.read(m_height);
     filer.read(m_viewHeight);
+    filer.read(m_viewTarget);
+    filer.read(m_viewDirection);
+    filer.read(m_lensLength);
     filer.read(m_on);
     filer.read(m_locked);
     filer.readArray(m_frozenLayers);

@@ -1,6 +1,8 @@
 // KyDbViewport: a window of a paper space layout onto model space: its
-// center, width and height on the sheet, the center and height of the view
-// it shows, whether it is on and whether its view is locked.
+// center, width and height on the sheet, the view it shows (its center and
+// height, the target point, the direction from the target to the viewer, the
+// lens length of the camera), whether it is on and whether its view is
+// locked.
 //
 // The first viewport of a paper space layout's block is the paper itself:
 // number() counts a layout's viewports in drawing order from 1 (erased ones
@@ -11,8 +13,9 @@
 // points, at least three, turn the clip on; no points turn it off. It may
 // have a visual style and a sun of its own.
 //
-// Setters need a write-open and change nothing for an equal value; sizes are
-// positive (eInvalidInput); ids must name objects of the right class of the
+// Setters need a write-open and change nothing for an equal value; sizes and
+// the lens length are positive, the direction is not (0, 0, 0)
+// (eInvalidInput); ids must name objects of the right class of the
 // viewport's database (eNotThatKindOfClass, eWrongDatabase, eWasErased).
 #pragma once
 
@@ -36,6 +39,16 @@ public:
     Kyro::ErrorStatus setViewCenter(const KyGePoint3d& center);
     double viewHeight() const { return m_viewHeight; }
     Kyro::ErrorStatus setViewHeight(double height);
+    // The point the view looks at; the origin unless set.
+    const KyGePoint3d& viewTarget() const { return m_viewTarget; }
+    Kyro::ErrorStatus setViewTarget(const KyGePoint3d& target);
+    // The direction from the target to the viewer, as the point it reaches
+    // from the origin; (0, 0, 1) looks down on the plan.
+    const KyGePoint3d& viewDirection() const { return m_viewDirection; }
+    Kyro::ErrorStatus setViewDirection(const KyGePoint3d& direction);
+    // The lens length of the camera in millimetres; 50 unless set.
+    double lensLength() const { return m_lensLength; }
+    Kyro::ErrorStatus setLensLength(double length);
 
     bool isOn() const { return m_on; }
     Kyro::ErrorStatus setOn(bool on);
@@ -86,9 +99,12 @@ private:
 
     KyGePoint3d m_center;
     KyGePoint3d m_viewCenter;
+    KyGePoint3d m_viewTarget;
+    KyGePoint3d m_viewDirection{0.0, 0.0, 1.0};
     double m_width = 1.0;
     double m_height = 1.0;
     double m_viewHeight = 1.0;
+    double m_lensLength = 50.0;
     bool m_on = true;
     bool m_locked = false;
     KyArray<KyDbObjectId> m_frozenLayers;

@@ -100,6 +100,9 @@ const KyRefMemberList kViewportMembers{kCommon,
                                         {"height"},
                                         {"viewCenter", nullptr, true},
                                         {"viewHeight"},
+                                        {"target", "[0, 0, 0]", true},
+                                        {"direction", "[0, 0, 1]", true},
+                                        {"lensLength", "50"},
                                         {"on", "true"},
                                         {"locked", "false"},
                                         {"frozenLayers", "[]"},
@@ -471,6 +474,16 @@ KyDbEntity* readViewport(KyRefReadContext& context, const KyRefJsonNode& node) {
     viewport->setViewCenter(requiredPoint(node, "viewCenter"));
     requiredNumber(node, "viewHeight", "a positive height",
                    [&](double height) { return viewport->setViewHeight(height); });
+    if (const auto target = node.optional("target")) {
+        viewport->setViewTarget(Forms::point(*target));
+    }
+    if (const auto direction = node.optional("direction")) {
+        Check::check(viewport->setViewDirection(Forms::point(*direction)), *direction,
+                     "a direction other than [0, 0, 0]");
+    }
+    if (const auto lens = node.optional("lensLength")) {
+        Check::check(viewport->setLensLength(lens->asNumber()), *lens, "a positive lens length");
+    }
     viewport->setOn(node.boolean("on", true));
     viewport->setLocked(node.boolean("locked", false));
     if (const auto frozen = node.optional("frozenLayers")) {
@@ -504,6 +517,9 @@ void writeViewport(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJs
     out["height"] = viewport.height();
     out["viewCenter"] = Forms::point(viewport.viewCenter());
     out["viewHeight"] = viewport.viewHeight();
+    out["target"] = Forms::point(viewport.viewTarget());
+    out["direction"] = Forms::point(viewport.viewDirection());
+    out["lensLength"] = viewport.lensLength();
     out["on"] = viewport.isOn();
     out["locked"] = viewport.isLocked();
     KyArray<KyDbObjectId> layers;

@@ -67,6 +67,7 @@ const KyRefMemberList kViewMembers{
     {"width", "1"},
     {"target", "[0, 0, 0]", true},
     {"direction", "[0, 0, 1]", true},
+    {"lensLength", "50"},
     {"sun"},
 };
 const KyRefMemberList kUcsMembers{
@@ -76,7 +77,15 @@ const KyRefMemberList kUcsMembers{
     {"yAxis", "[0, 1, 0]", true},
 };
 const KyRefMemberList kViewportMembers{
-    {"name"}, {"center", "[0, 0]", true}, {"height", "1"}, {"viewCenter", "[0, 0]", true}, {"sun"},
+    {"name"},
+    {"center", "[0, 0]", true},
+    {"height", "1"},
+    {"width", "1"},
+    {"viewCenter", "[0, 0]", true},
+    {"target", "[0, 0, 0]", true},
+    {"direction", "[0, 0, 1]", true},
+    {"lensLength", "50"},
+    {"sun"},
 };
 const KyRefMemberList kBlockMembers{
     {"name"},
@@ -353,9 +362,9 @@ void writeSun(const KyDbAbstractViewTableRecord& view, KyRefJson& out) {
     }
 }
 
-void readView(KyRefReadContext& context, const KyRefJsonNode& node, KyDbSymbolTableRecord& record) {
-    auto& view = static_cast<KyDbViewTableRecord&>(record);
-    view.setIsPaperspaceView(node.boolean("paperSpace", false));
+// What views and viewport configurations share: the view and its sun.
+void readViewOf(KyRefReadContext& context, const KyRefJsonNode& node,
+                KyDbAbstractViewTableRecord& view) {
     view.setCenterPoint(pointOr(node, "center", KyGePoint3d()));
     optionalMember(
         node, "height", "a positive height", [](const KyRefJsonNode& n) { return n.asNumber(); },
@@ -368,37 +377,46 @@ void readView(KyRefReadContext& context, const KyRefJsonNode& node, KyDbSymbolTa
         node, "direction", "a direction other than [0, 0, 0]",
         [](const KyRefJsonNode& n) { return Forms::point(n); },
         [&view](const KyGePoint3d& direction) { return view.setViewDirection(direction); });
+    optionalMember(
+        node, "lensLength", "a positive lens length",
+        [](const KyRefJsonNode& n) { return n.asNumber(); },
+        [&view](double length) { return view.setLensLength(length); });
     readSun(context, node, view);
 }
 
-void writeView(KyRefWriteContext&, const KyDbSymbolTableRecord& record, KyRefJson& out) {
-    const auto& view = static_cast<const KyDbViewTableRecord&>(record);
-    out["paperSpace"] = view.isPaperspaceView();
+void writeViewOf(const KyDbAbstractViewTableRecord& view, KyRefJson& out) {
     out["center"] = Forms::point(view.centerPoint());
     out["height"] = view.height();
     out["width"] = view.width();
     out["target"] = Forms::point(view.target());
     out["direction"] = Forms::point(view.viewDirection());
+    out["lensLength"] = view.lensLength();
     writeSun(view, out);
+}
+
+void readView(KyRefReadContext& context, const KyRefJsonNode& node, KyDbSymbolTableRecord& record) {
+    auto& view = static_cast<KyDbViewTableRecord&>(record);
+    view.setIsPaperspaceView(node.boolean("paperSpace", false));
+    readViewOf(context, node, view);
+}
+
+void writeView(KyRefWriteContext&, const KyDbSymbolTableRecord& record, KyRefJson& out) {
+    const auto& view = static_cast<const KyDbViewTableRecord&>(record);
+    out["paperSpace"] = view.isPaperspaceView();
+    writeViewOf(view, out);
 }
 
 void readViewport(KyRefReadContext& context, const KyRefJsonNode& node,
                   KyDbSymbolTableRecord& record) {
     auto& viewport = static_cast<KyDbViewportTableRecord&>(record);
-    viewport.setCenterPoint(pointOr(node, "center", KyGePoint3d()));
-    optionalMember(
-        node, "height", "a positive height", [](const KyRefJsonNode& n) { return n.asNumber(); },
-        [&viewport](double height) { return viewport.setHeight(height); });
+    readViewOf(context, node, viewport);
     viewport.setViewCenter(pointOr(node, "viewCenter", KyGePoint3d()));
-    readSun(context, node, viewport);
 }
 
 void writeViewport(KyRefWriteContext&, const KyDbSymbolTableRecord& record, KyRefJson& out) {
     const auto& viewport = static_cast<const KyDbViewportTableRecord&>(record);
-    out["center"] = Forms::point(viewport.centerPoint());
-    out["height"] = viewport.height();
+    writeViewOf(viewport, out);
     out["viewCenter"] = Forms::point(viewport.viewCenter());
-    writeSun(viewport, out);
 }
 
 // ---- User coordinate systems

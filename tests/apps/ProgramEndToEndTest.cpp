@@ -151,6 +151,21 @@ TEST_F(Program, FailingStatementsPrintErrorsTheScriptGoesOnAndTheStatusIsOne) {
     expectScript("errors", 1);
 }
 
+TEST_F(Program, AViewportOfTheLayoutShownIsEnteredAndLeftAndTheDrawingKeepsIt) {
+    expectScript("viewport", 1);
+    const KyRefJson saved = readJson(readFile(folder / "details.kyd"));
+    ASSERT_TRUE(saved.is_object());
+    EXPECT_EQ(saved["header"]["TILEMODE"], 0);
+    EXPECT_EQ(saved["header"]["CVPORT"], 2);
+    std::string detailsBlock;
+    for (const KyRefJson& block : saved["blocks"]) {
+        if (block.value("layout", "") == "70") {
+            detailsBlock = block["name"].get<std::string>();
+        }
+    }
+    EXPECT_EQ(detailsBlock, "*Paper_Space") << "the block of the layout shown";
+}
+
 TEST_F(Program, DocumentsOpenSwitchAndCloseWithTheHostsEvents) {
     expectScript("documents", 0);
     EXPECT_TRUE(fs::exists(folder / "drawing1.kyd"));

@@ -5,6 +5,11 @@
 #include <stdexcept>
 
 #include "db/KyAxDocLock.h"
+#include "db/KyDbBlockTableRecord.h"
+#include "db/KyDbDatabase.h"
+#include "db/KyDbObjectPointer.h"
+#include "db/KyDbSymbolTable.h"
+#include "db/KyDbViewport.h"
 #include "kydi/KyDiManager.h"
 #include "kydi/KyUiAddNotifyHandler.h"
 #include "manager/RecordingReactors.h"
@@ -197,6 +202,26 @@ class EditingState : public kytest::RefHostFixture {
 protected:
     using RefHostFixture::RefHostFixture;
 
+    // A paper and a window onto model space on the layout of *Paper_Space;
+    // answers the window.
+    KyDbObjectId addViewports() {
+        const KyAxDocLock lock(host.documents().currentDatabase());
+        KyDbObjectId paperSpaceId;
+        {
+            KyDbObjectPointer<KyDbSymbolTable> blocks(
+                host.documents().currentDatabase()->blockTableId(), KyDb::kForRead);
+            blocks->getAt(L"*Paper_Space", paperSpaceId);
+        }
+        KyDbObjectPointer<KyDbBlockTableRecord> space(paperSpaceId, KyDb::kForWrite);
+        KyDbObjectId id;
+        for (int i = 0; i < 2; ++i) {
+            auto* viewport = new KyDbViewport();
+            EXPECT_EQ(space->appendKyDbEntity(id, viewport), Kyro::eOk);
+            viewport->close();
+        }
+        return id;
+    }
+
     short paperSpace() {
         KyDiManager::refresh();
         resbuf value{};
@@ -217,13 +242,20 @@ TEST_F(EditingState, PaperSpaceIsTheLayoutsPaperViewport) {
     type(L"CTAB\nLayout1\n");
     ASSERT_EQ(hostValue(L"CVPORT"), L"1");
     EXPECT_EQ(paperSpace(), 1);
-    type(L"CVPORT\n2\n");
+    ASSERT_EQ(host.enterViewport(addViewports()), Kyro::eOk);
     EXPECT_EQ(paperSpace(), 0) << "a floating viewport of the layout is current";
 }
 
 TEST_F(EditingState, ModelSpaceIsNeverPaperSpaceWhateverTheViewportSays) {
-    type(L"TILEMODE\n0\nTILEMODE\n1\nCVPORT\n1\n");
+    type(L"TILEMODE\n0\nTILEMODE\n1\n");
     ASSERT_EQ(hostValue(L"TILEMODE"), L"1");
+    {
+        // The host refuses CVPORT 1 in model space; a drawing may hold it.
+        const KyAxDocLock lock;
+        ASSERT_EQ(host.documents().currentDatabase()->setHeaderVar(
+                      L"CVPORT", KyRxValue(static_cast<short>(1))),
+                  Kyro::eOk);
+    }
     ASSERT_EQ(hostValue(L"CVPORT"), L"1");
     EXPECT_EQ(paperSpace(), 0);
 }

@@ -13,6 +13,7 @@
 #include "db/KyDbPoint.h"
 #include "db/KyDbText.h"
 #include "db/KyDbTextStyleTableRecord.h"
+#include "db/KyDbViewport.h"
 
 namespace refhost {
 namespace {
@@ -112,9 +113,12 @@ TEST_F(EntityCommandTest, PointAndInsertDrawAndUTakesTheLastBack) {
 }
 
 TEST_F(EntityCommandTest, OnTheSheetOfALayoutEntitiesGoToPaperSpace) {
+    for (int i = 0; i < 2; ++i) {
+        content.addEntityTo<KyDbViewport>(content.paperSpaceId(), [](KyDbViewport&) {});
+    }
     runToEnd(L"TILEMODE\n0\nCVPORT\n1\nPOINT\n0,0\n");
     EXPECT_TRUE(drawn().empty());
-    EXPECT_EQ(DrawingContent::entitiesOf(content.paperSpaceId()).size(), 1u);
+    EXPECT_EQ(DrawingContent::entitiesOf(content.paperSpaceId()).size(), 3u);
     runToEnd(L"CVPORT\n2\nPOINT\n0,0\n");
     EXPECT_EQ(drawn().size(), 1u) << "through a viewport of the layout";
 }

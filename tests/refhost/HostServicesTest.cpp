@@ -9,8 +9,6 @@
 #include "db/KyDbDatabase.h"
 #include "db/KyDbDictionary.h"
 #include "db/KyDbObjectPointer.h"
-#include "db/KyDbSymbolTable.h"
-#include "db/KyDbViewTableRecord.h"
 #include "db/KyDbVisualStyle.h"
 #include "pal/KyPal.h"
 
@@ -281,41 +279,6 @@ TEST_F(HostServicesTest, TheUcsIsWhatUcsnameNames) {
     EXPECT_TRUE(id.isNull());
     host->documents().closeAll();
     EXPECT_EQ(host->ucsService()->getCurrent(name, id), Kyro::eNoCurrentDocument);
-}
-
-TEST_F(HostServicesTest, TheViewShownFollowsARestoredView) {
-    KyDbObjectId viewId;
-    {
-        KyAxDocLock lock(db());
-        KyDbObjectPointer<KyDbSymbolTable> views(db()->viewTableId(), KyDb::kForWrite);
-        auto* view = new KyDbViewTableRecord();
-        view->setName(L"North");
-        view->setCenterPoint(KyGePoint3d(5.0, 6.0, 0.0));
-        view->setHeight(10.0);
-        ASSERT_EQ(views->add(viewId, view), Kyro::eOk);
-        view->close();
-    }
-    KyRefViewportService& viewport = *host->viewportService();
-    KyRefReadAccess<KyDbViewTableRecord> view(viewId);
-    EXPECT_FALSE(viewport.matchesView(view.object()));
-    ASSERT_EQ(viewport.restoreView(viewId), Kyro::eOk);
-    EXPECT_TRUE(viewport.matchesView(view.object()));
-    KyGePoint3d center;
-    ASSERT_EQ(viewport.getViewPoint(center, KyDiViewportService::kViewCenter), Kyro::eOk);
-    EXPECT_EQ(center, KyGePoint3d(5.0, 6.0, 0.0));
-    ASSERT_EQ(viewport.setViewPoint(KyGePoint3d(1.0, 1.0, 0.0), KyDiViewportService::kViewCenter),
-              Kyro::eOk);
-    EXPECT_FALSE(viewport.matchesView(view.object()));
-
-    EXPECT_EQ(viewport.setLensLength(-1.0), Kyro::eInvalidInput);
-    EXPECT_EQ(viewport.getLensLength(), 50.0);
-    KyCmColor background;
-    viewport.getBackgroundOverride(background);
-    EXPECT_TRUE(background.isNone());
-    KyDbObjectId current;
-    viewport.setCurrentViewportId(viewId);
-    viewport.getCurrentViewportId(current);
-    EXPECT_EQ(current, viewId);
 }
 
 TEST_F(HostServicesTest, TheColorListNamesAreInTheUsersLanguage) {

@@ -187,8 +187,10 @@ TEST_F(SysVarStoreTest, ADirectWriteOfTheHeaderIsToldAsTheVariablesItChanges) {
         KyAxDocLock lock(db());
         ASSERT_EQ(db()->setTilemode(false), Kyro::eOk);
     }
-    EXPECT_EQ(spy.take(), (Lines{"sysVarWillChange TILEMODE", "sysVarChanged TILEMODE true",
-                                 "sysVarChanged CTAB true", "layoutChanged"}));
+    // The layout shown is on its paper: the viewport changed too.
+    EXPECT_EQ(spy.take(),
+              (Lines{"sysVarWillChange TILEMODE", "sysVarChanged TILEMODE true",
+                     "sysVarChanged CTAB true", "sysVarChanged CVPORT true", "layoutChanged"}));
 }
 
 TEST_F(SysVarStoreTest, CurrentItemsAreTheNamesOfTheDrawingsRecords) {

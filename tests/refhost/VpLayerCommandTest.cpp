@@ -20,7 +20,8 @@ class VpLayerCommandTest : public LayerFixture {
 protected:
     VpLayerCommandTest() {
         openDrawing(kLayerDrawing);
-        host->viewportService()->setViewportEntityId(object(L"41"));
+        EXPECT_EQ(host->enterViewport(object(L"41")), Kyro::eOk);
+        spy.take();
     }
 
     void runToEnd(const wchar_t* text) {
@@ -150,7 +151,8 @@ TEST_F(VpLayerCommandTest, BadInputIsAnErrorLineThatChangesNothingAndLeavesNoPro
 }
 
 TEST_F(VpLayerCommandTest, WithoutACurrentViewportCurrentIsAnError) {
-    host->viewportService()->setViewportEntityId(KyDbObjectId());
+    ASSERT_EQ(host->leaveViewport(), Kyro::eOk);
+    spy.take();
     run(L"'_.VPLAYER\n_FREEZE\n=Walls\n_CURRENT\n\n");
     EXPECT_EQ(takeLog().back(), "No viewport is current.");
     EXPECT_EQ(spy.take(), kFailed);

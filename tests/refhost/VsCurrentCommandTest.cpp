@@ -97,7 +97,7 @@ TEST_F(VsCurrentCommandTest, InALayoutTheCurrentViewportEntityTakesTheStyleUntil
         content.addEntityTo<KyDbViewport>(content.paperSpaceId(), [](KyDbViewport&) {});
     ASSERT_FALSE(paper.isNull());
     run(L"TILEMODE\n0\n");
-    host->viewportService()->setViewportEntityId(viewport);
+    ASSERT_EQ(host->enterViewport(viewport), Kyro::eOk);
     runVsCurrent(L"_Conceptual\n");
     EXPECT_EQ(KyDbObjectPointer<KyDbViewport>(viewport, KyDb::kForRead)->visualStyleId(),
               style(L"Conceptual"));

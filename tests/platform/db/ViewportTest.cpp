@@ -1,11 +1,15 @@
 // Paper space viewports: the paper is the first viewport of its layout,
-// layers frozen in one viewport alone, the clip boundary, and the undo of
-// each.
+// layers frozen in one viewport alone, the clip boundary, the view a viewport
+// and a viewport configuration show, and the undo of each.
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 #include "DbTestSupport.h"
 #include "db/KyDbLine.h"
+#include "db/KyDbSymbolTable.h"
 #include "db/KyDbViewport.h"
+#include "db/KyDbViewportTableRecord.h"
 #include "db/KyDbVisualStyle.h"
 
 namespace dbtest {
@@ -170,6 +174,64 @@ TEST_F(ViewportTest, AVisualStyleIsOneOfTheDrawingOrNone) {
               Kyro::eOk);
     KyDbObjectPointer<KyDbViewport> viewport(window, KyDb::kForRead);
     EXPECT_TRUE(viewport->visualStyleId().isNull());
+}
+
+TEST_F(ViewportTest, TheViewsTargetDirectionAndLensAreCheckedAndUndone) {
+    {
+        KyDbObjectPointer<KyDbViewport> viewport(window, KyDb::kForRead);
+        EXPECT_EQ(viewport->viewTarget(), KyGePoint3d::kOrigin);
+        EXPECT_EQ(viewport->viewDirection(), KyGePoint3d(0, 0, 1)) << "a plan view";
+        EXPECT_EQ(viewport->lensLength(), 50.0);
+    }
+    ObjectSpy spy(log);
+    watch(window, &spy);
+    EXPECT_EQ(changeWindow([](KyDbViewport* v) { return v->setViewDirection(KyGePoint3d()); }),
+              Kyro::eInvalidInput);
+    for (const double length : {0.0, -35.0, static_cast<double>(INFINITY)}) {
+        EXPECT_EQ(changeWindow([length](KyDbViewport* v) { return v->setLensLength(length); }),
+                  Kyro::eInvalidInput);
+    }
+    EXPECT_TRUE(log.lines().empty()) << "a refusal changes nothing";
+
+    ASSERT_EQ(changeWindow([](KyDbViewport* v) {
+                  v->setViewTarget(KyGePoint3d(10, 20, 0));
+                  v->setViewDirection(KyGePoint3d(1, -1, 1));
+                  return v->setLensLength(35.0);
+              }),
+              Kyro::eOk);
+    EXPECT_EQ(log.lines().back(), "objectClosed KyDbViewport");
+    ASSERT_EQ(undo()->undo(), Kyro::eOk);
+    {
+        KyDbObjectPointer<KyDbViewport> viewport(window, KyDb::kForRead);
+        EXPECT_EQ(viewport->viewTarget(), KyGePoint3d::kOrigin);
+        EXPECT_EQ(viewport->viewDirection(), KyGePoint3d(0, 0, 1));
+        EXPECT_EQ(viewport->lensLength(), 50.0);
+    }
+    ASSERT_EQ(undo()->redo(), Kyro::eOk);
+    KyDbObjectPointer<KyDbViewport> viewport(window, KyDb::kForRead);
+    EXPECT_EQ(viewport->viewTarget(), KyGePoint3d(10, 20, 0));
+    EXPECT_EQ(viewport->viewDirection(), KyGePoint3d(1, -1, 1));
+    EXPECT_EQ(viewport->lensLength(), 35.0);
+}
+
+TEST_F(ViewportTest, AConfigurationsLensLengthIsPositiveAndUndone) {
+    KyDbObjectId active;
+    {
+        KyDbObjectPointer<KyDbSymbolTable> table(db->viewportTableId(), KyDb::kForWrite);
+        auto* record = new KyDbViewportTableRecord();
+        record->setName(L"*Active");
+        ASSERT_EQ(table->add(active, record), Kyro::eOk);
+        EXPECT_EQ(record->lensLength(), 50.0);
+        EXPECT_EQ(record->setLensLength(0.0), Kyro::eInvalidInput);
+        record->close();
+    }
+    {
+        KyDbObjectPointer<KyDbViewportTableRecord> record(active, KyDb::kForWrite);
+        ASSERT_EQ(record->setLensLength(85.0), Kyro::eOk);
+    }
+    ASSERT_EQ(undo()->undo(), Kyro::eOk);
+    KyDbObjectPointer<KyDbViewportTableRecord> record(active, KyDb::kForRead);
+    EXPECT_EQ(record->lensLength(), 50.0);
 }
 
 }  // namespace
