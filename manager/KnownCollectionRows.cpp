@@ -7,8 +7,16 @@
 #include "collections/KyDiImpLayerCollection.h"
 #include "collections/KyDiImpLineTypeCollection.h"
 #include "collections/KyDiImpSymbolTableItemCollection.h"
+#include "collections/KyDiImpUCSCollection.h"
+#include "collections/KyDiImpViewCollection.h"
+#include "collections/KyDiImpViewportCollection.h"
 #include "currency/DataItemCurrencyTracker.h"
 #include "currency/LayerCurrencyTracker.h"
+#include "currency/LayerFilterCurrencyTracker.h"
+#include "currency/RenderPresetCurrencyTracker.h"
+#include "currency/UCSCurrencyTracker.h"
+#include "currency/ViewCurrencyTracker.h"
+#include "currency/VisualStyleCurrencyTracker.h"
 #include "db/KyDbDatabase.h"
 
 namespace {
@@ -26,6 +34,28 @@ KyDiCurrencyTracker* newDataItemTracker(const wchar_t* name, const wchar_t* sysV
                                         KyDbIdSetter setCurrent) {
     return newTracker<DataItemCurrencyTracker>(name, sysVar, commandFormat, getCurrent,
                                                setCurrent);
+}
+
+// The UCS tracker listens to the variable of the named views, whatever its
+// row says, and sends commands of its own.
+KyDiCurrencyTracker* newUcsTracker(const wchar_t* name, const wchar_t* /*sysVar*/,
+                                   const wchar_t* /*commandFormat*/, KyDbIdGetter getCurrent,
+                                   KyDbIdSetter setCurrent) {
+    return new UCSCurrencyTracker(name, L"NAMEDVIEWS", L"", getCurrent, setCurrent);
+}
+
+KyDiCurrencyTracker* newLayerFilterTracker(const wchar_t* name, const wchar_t* sysVar,
+                                           const wchar_t* commandFormat,
+                                           KyDbIdGetter /*getCurrent*/,
+                                           KyDbIdSetter /*setCurrent*/) {
+    return new LayerFilterCurrencyTracker(name, sysVar, commandFormat);
+}
+
+// The named views of the space the user is in, or the model views only.
+template <bool modelViewsOnly>
+KyDiImpCollection* newViewCollection(const wchar_t* name, KyDiCurrencyTracker* tracker,
+                                     KyDbIdGetter getTableId) {
+    return new KyDiImpViewCollection(name, tracker, getTableId, modelViewsOnly);
 }
 
 // A factory of a collection class that takes the name, the tracker and the
@@ -80,11 +110,11 @@ const KnownCollectionRow kRows[] = {
     {L"KYRO_PLOTSETTINGS", nullptr, nullptr, nullptr, nullptr, &Db::plotSettingsDictionaryId,
      &newCollection<KyDiImpDataPlotSettingsItemCollection>, nullptr,
      L"plotSettingsDictionaryId/Items"},
-    {L"KYRO_VISUALSTYLE", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-     L"/VisualStyleDictionaryId/Items"},
+    {L"KYRO_VISUALSTYLE", &newTracker<VisualStyleCurrencyTracker>, nullptr, nullptr, nullptr,
+     nullptr, nullptr, nullptr, L"/VisualStyleDictionaryId/Items"},
     {L"KYRO_LAYERSTATES", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
-    {L"NAMEDVIEWS", nullptr, nullptr, nullptr, nullptr, &Db::viewTableId, nullptr, nullptr,
-     nullptr},
+    {L"NAMEDVIEWS", &newTracker<ViewCurrencyTracker>, nullptr, nullptr, nullptr, &Db::viewTableId,
+     &newViewCollection<false>, nullptr, nullptr},
     {L"KYRO_PLOTSTYLENAME", nullptr, L"CPLOTSTYLE", nullptr, nullptr, nullptr, nullptr, nullptr,
      L"/PlotStyleNameDictionaryId/Items"},
     {L"KYDI_DATAITEM_SELECTED_ITEMS", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
@@ -95,11 +125,13 @@ const KnownCollectionRow kRows[] = {
      L"/RecentBlock/Items"},
     {L"COUNTING", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
      L"/Counting/Items"},
-    {L"RENDER_PRESETS", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-     L"/RenderSettingsDictionary/Items"},
-    {L"UCS_PLANES", nullptr, nullptr, nullptr, nullptr, &Db::UCSTableId, nullptr, nullptr, nullptr},
+    {L"RENDER_PRESETS", &newTracker<RenderPresetCurrencyTracker>, nullptr, nullptr, nullptr,
+     nullptr, nullptr, nullptr, L"/RenderSettingsDictionary/Items"},
+    {L"UCS_PLANES", &newUcsTracker, nullptr, nullptr, nullptr, &Db::UCSTableId,
+     &newTableCollection<KyDiImpUCSCollection>, nullptr, nullptr},
     {L"COLOR", nullptr, L"CECOLOR", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
-    {L"LAYERFILTERS", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
+    {L"LAYERFILTERS", &newLayerFilterTracker, nullptr, nullptr, nullptr, nullptr, nullptr,
+     L"'_.-LAYER\n_Filter\n_Set\n\"%ls\"\n\n", nullptr},
     {L"LAYERFILTER_TREE", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
     {L"SCALELIST", nullptr, L"CANNOSCALE", nullptr, nullptr, nullptr, nullptr, nullptr,
      L"/ScaleListDictionaryId/Items"},
@@ -107,10 +139,10 @@ const KnownCollectionRow kRows[] = {
      L"/BlockTableId/Items"},
     {L"PLOTSTYLETABLE", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
      L"/PlotStyleTable/Items"},
-    {L"VIEWPORT", nullptr, nullptr, nullptr, nullptr, &Db::viewportTableId, nullptr, nullptr,
-     L"/ViewportTableId/Items"},
-    {L"NAMEDMODELVIEWS", nullptr, nullptr, nullptr, nullptr, &Db::viewTableId, nullptr, nullptr,
-     nullptr},
+    {L"VIEWPORT", nullptr, nullptr, nullptr, nullptr, &Db::viewportTableId,
+     &newTableCollection<KyDiImpViewportCollection>, nullptr, L"/ViewportTableId/Items"},
+    {L"NAMEDMODELVIEWS", &newTracker<ViewCurrencyTracker>, nullptr, nullptr, nullptr,
+     &Db::viewTableId, &newViewCollection<true>, nullptr, nullptr},
     {L"IMAGE", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
 };
 

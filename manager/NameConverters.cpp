@@ -67,19 +67,8 @@ int convertMaterialName(KyRxValue* value, bool toLocal) {
     return convertNames(value, toLocal, kMaterialKinds);
 }
 
-// A visual style's name is always written back as a text, translated or not.
-int convertVisualStyleName(KyRxValue* value, bool toLocal) {
-    const wchar_t* text = textOf(value);
-    KyString name(text != nullptr ? text : L"");
-    if (const wchar_t* translated = translate(name.kwszPtr(), kVisualStyleKinds, toLocal)) {
-        name = translated;
-    }
-    *value = KyRxValue(name);
-    return Kyro::eOk;
-}
-
 const NameConverterRow kRows[] = {
-    {L"KYRO_VISUALSTYLE", L"Name", &convertVisualStyleName},
+    {L"KYRO_VISUALSTYLE", L"Name", &NameConverters::convertVisualStyleName},
     {L"LINETYPE", L"Name", &convertLinetypeName},
     {L"KYRO_MATERIAL", L"Name", &convertMaterialName},
     {nullptr, nullptr, nullptr},
@@ -89,6 +78,20 @@ const NameConverterRow kRows[] = {
 
 const NameConverterRow* NameConverters::rows() {
     return kRows;
+}
+
+const KyDb::ReservedStringEnumType* NameConverters::visualStyleKinds() {
+    return kVisualStyleKinds;
+}
+
+int NameConverters::convertVisualStyleName(KyRxValue* value, bool toLocal) {
+    const wchar_t* text = textOf(value);
+    KyString name(text != nullptr ? text : L"");
+    if (const wchar_t* translated = translate(name.kwszPtr(), kVisualStyleKinds, toLocal)) {
+        name = translated;
+    }
+    *value = KyRxValue(name);
+    return Kyro::eOk;
 }
 
 void NameConverters::install() {

@@ -6,6 +6,8 @@
 // class.
 #pragma once
 
+#include "db/KyDbReservedStrings.h"
+
 class KyRxClass;
 class KyRxValue;
 
@@ -28,4 +30,12 @@ public:
     // the user's language when a row covers them (the property name compared
     // without regard to case).
     static void toLocal(const KyRxClass* cls, const wchar_t* propertyName, KyRxValue& value);
+
+    // The reserved kinds of the standard visual styles, ended by
+    // KyDb::kReservedStringCount.
+    static const KyDb::ReservedStringEnumType* visualStyleKinds();
+    // The conversion of the visual styles' row: a standard style's name into
+    // its local form (`toLocal`) or its global one. The value is always
+    // written back as a text, translated or not; answers Kyro::eOk.
+    static int convertVisualStyleName(KyRxValue* value, bool toLocal);
 };

@@ -30,6 +30,7 @@ Kyro::ErrorStatus KyRefRenderService::setCurrentPreset(const KyString& name) {
         return Kyro::eKeyNotFound;
     }
     m_current = name;
+    m_appliedPresets.push_back(name);
     return Kyro::eOk;
 }
 

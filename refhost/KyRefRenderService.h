@@ -32,6 +32,9 @@ public:
 
     // ---- State that tests and scripts set and read
     const std::vector<KyString>& hostPresets() const { return m_hostPresets; }
+    // Every preset made current, in order, also one made current again: the
+    // host takes up the preset's settings each time.
+    const std::vector<KyString>& appliedPresets() const { return m_appliedPresets; }
     void setOutputSize(const wchar_t* size) { m_outputSize = size; }
     bool displaysProperties() const { return m_displayProperties; }
     void setPaletteAvailable(bool available) { m_paletteAvailable = available; }
@@ -39,6 +42,7 @@ public:
 private:
     KyRefHost& m_host;
     std::vector<KyString> m_hostPresets;
+    std::vector<KyString> m_appliedPresets;
     KyString m_current;
     KyString m_outputSize;
     bool m_displayProperties = false;

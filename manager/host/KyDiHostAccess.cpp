@@ -23,6 +23,21 @@ KyDiViewportService* KyDiHostAccess::viewportService() {
     return current != nullptr ? current->viewportService() : nullptr;
 }
 
+KyDiVisualStyleService* KyDiHostAccess::visualStyleService() {
+    KyDiHost* current = host();
+    return current != nullptr ? current->visualStyleService() : nullptr;
+}
+
+KyDiUcsService* KyDiHostAccess::ucsService() {
+    KyDiHost* current = host();
+    return current != nullptr ? current->ucsService() : nullptr;
+}
+
+KyDiRenderService* KyDiHostAccess::renderService() {
+    KyDiHost* current = host();
+    return current != nullptr ? current->renderService() : nullptr;
+}
+
 KyDiLayerService* KyDiHostAccess::layerService() {
     KyDiHost* current = host();
     return current != nullptr ? current->layerService() : nullptr;

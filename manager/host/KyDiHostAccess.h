@@ -10,7 +10,10 @@ class KyDiEditorService;
 class KyDiExternalReferenceHost;
 class KyDiHost;
 class KyDiLayerService;
+class KyDiRenderService;
+class KyDiUcsService;
 class KyDiViewportService;
+class KyDiVisualStyleService;
 
 class KyDiHostAccess {
 public:
@@ -20,6 +23,9 @@ public:
     static KyDiDocumentManager* documentManager();
     static KyDiEditorService* editor();
     static KyDiViewportService* viewportService();
+    static KyDiVisualStyleService* visualStyleService();
+    static KyDiUcsService* ucsService();
+    static KyDiRenderService* renderService();
     static KyDiLayerService* layerService();
     static KyDiExternalReferenceHost* xrefHost();
 

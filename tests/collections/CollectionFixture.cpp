@@ -7,9 +7,13 @@
 #include "db/KyDbLinetypeTableRecord.h"
 #include "db/KyDbMaterial.h"
 #include "db/KyDbObjectPointer.h"
+#include "db/KyDbRenderSettings.h"
 #include "db/KyDbSymbolTable.h"
 #include "db/KyDbTextStyleTableRecord.h"
+#include "db/KyDbUCSTableRecord.h"
 #include "db/KyDbUndoController.h"
+#include "db/KyDbViewTableRecord.h"
+#include "db/KyDbViewportTableRecord.h"
 
 namespace kytest {
 
@@ -30,15 +34,32 @@ private:
     KyDbDatabase* m_database;
 };
 
-template <typename Record>
-KyDbObjectId addRecord(KyDbDatabase* db, KyDbObjectId tableId, const wchar_t* name) {
+// A new record of this name; `configure` sets the rest before it is added.
+template <typename Record, typename Configure = void (*)(Record&)>
+KyDbObjectId addRecord(
+    KyDbDatabase* db, KyDbObjectId tableId, const wchar_t* name,
+    Configure configure = [](Record&) {}) {
     const Edit edit(db);
     KyDbObjectPointer<KyDbSymbolTable> table(tableId, KyDb::kForWrite);
     auto* record = new Record();
     record->setName(name);
+    configure(*record);
     KyDbObjectId id;
     EXPECT_EQ(table->add(id, record), Kyro::eOk);
     record->close();
+    return id;
+}
+
+// A new named object under the key `name` of a dictionary.
+template <typename Entry>
+KyDbObjectId addEntry(KyDbDatabase* db, KyDbObjectId dictionaryId, const wchar_t* name) {
+    const Edit edit(db);
+    KyDbObjectPointer<KyDbDictionary> dictionary(dictionaryId, KyDb::kForWrite);
+    auto* entry = new Entry();
+    entry->setName(name);
+    KyDbObjectId id;
+    EXPECT_EQ(dictionary->setAt(name, entry, id), Kyro::eOk);
+    entry->close();
     return id;
 }
 
@@ -56,15 +77,29 @@ KyDbObjectId CollectionFixture::addTextStyle(const wchar_t* name) {
     return addRecord<KyDbTextStyleTableRecord>(db(), db()->textStyleTableId(), name);
 }
 
+KyDbObjectId CollectionFixture::addView(const wchar_t* name, const KyGePoint3d& center,
+                                        bool paperSpace) {
+    return addRecord<KyDbViewTableRecord>(db(), db()->viewTableId(), name,
+                                          [&](KyDbViewTableRecord& view) {
+                                              view.setCenterPoint(center);
+                                              view.setIsPaperspaceView(paperSpace);
+                                          });
+}
+
+KyDbObjectId CollectionFixture::addViewport(const wchar_t* name) {
+    return addRecord<KyDbViewportTableRecord>(db(), db()->viewportTableId(), name);
+}
+
+KyDbObjectId CollectionFixture::addUcs(const wchar_t* name) {
+    return addRecord<KyDbUCSTableRecord>(db(), db()->UCSTableId(), name);
+}
+
 KyDbObjectId CollectionFixture::addMaterial(const wchar_t* name) {
-    const Edit edit(db());
-    KyDbObjectPointer<KyDbDictionary> materials(db()->materialDictionaryId(), KyDb::kForWrite);
-    auto* material = new KyDbMaterial();
-    material->setName(name);
-    KyDbObjectId id;
-    EXPECT_EQ(materials->setAt(name, material, id), Kyro::eOk);
-    material->close();
-    return id;
+    return addEntry<KyDbMaterial>(db(), db()->materialDictionaryId(), name);
+}
+
+KyDbObjectId CollectionFixture::addRenderPreset(const wchar_t* name) {
+    return addEntry<KyDbRenderSettings>(db(), db()->renderSettingsDictionaryId(), name);
 }
 
 void CollectionFixture::rename(KyDbObjectId id, const wchar_t* name) {
@@ -90,6 +125,16 @@ KyDbObjectId CollectionFixture::recordOf(KyDbObjectId tableId, const wchar_t* na
     KyDbObjectId id;
     table->getAt(name, id);
     return id;
+}
+
+std::vector<std::wstring> CollectionFixture::sentWithFlags() {
+    std::vector<std::wstring> texts;
+    for (const KyRefEditor::SentCommand& sent : host.KyRefHost::editor()->takeSentCommands()) {
+        texts.push_back(std::wstring(sent.text.kwszPtr()) + L" (" + (sent.flag1 ? L"1" : L"0") +
+                        L" " + (sent.flag2 ? L"1" : L"0") + L" " + (sent.flag3 ? L"1" : L"0") +
+                        L")");
+    }
+    return texts;
 }
 
 std::vector<std::string> CollectionFixture::names(KyDiObservableCollection* collection) {

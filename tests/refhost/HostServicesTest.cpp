@@ -182,6 +182,14 @@ Lines texts(const KyArray<KyString>& names) {
     return lines;
 }
 
+Lines texts(const std::vector<KyString>& names) {
+    Lines lines;
+    for (const KyString& name : names) {
+        lines.push_back(name.utf8());
+    }
+    return lines;
+}
+
 TEST_F(HostServicesTest, ThePlotStylesOfferedAreThoseOfTheTableOfTheDrawingsLayout) {
     KyRefPlotService& plot = *host->plotService();
     KyDbObjectId owner;
@@ -227,6 +235,9 @@ TEST_F(HostServicesTest, RenderPresetsAreTheHostsAndTheDrawings) {
     EXPECT_EQ(render.setCurrentPreset(KyString(L"Blinding")), Kyro::eKeyNotFound);
     render.getCurrentPresetName(name);
     EXPECT_EQ(name, L"high");
+    EXPECT_EQ(render.setCurrentPreset(KyString(L"High")), Kyro::eOk);
+    EXPECT_EQ(texts(render.appliedPresets()), (Lines{"high", "High"}))
+        << "taken up each time it is made current, the refused one never";
     KyArray<KyDbObjectId> ids;
     EXPECT_EQ(render.getPresetIds(db(), ids), Kyro::eOk);
     EXPECT_TRUE(ids.isEmpty()) << "a new drawing has no presets of its own";

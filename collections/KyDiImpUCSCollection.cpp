@@ -1,0 +1,5 @@
+#include "collections/KyDiImpUCSCollection.h"
+
+void KyDiImpUCSCollection::subUcsChanged() {
+    requestCurrencyCheck();
+}
