@@ -1,6 +1,8 @@
 #include "collections/KyDiImpCollectionBase.h"
 
 #include <cstdint>
+#include <unordered_map>
+#include <vector>
 
 #include "collections/DataItemCurrencyReactor.h"
 #include "currency/DataItemCurrencyTrackerBase.h"
@@ -303,24 +305,50 @@ void KyDiImpCollectionBase::deactivate(KyDiDocument document, KyDbObject* closin
 
 void KyDiImpCollectionBase::mergeByIdentity(KyDiItemArray& added, KyDiItemArray& removed,
                                             KyDiItemArray& modified, KyDiItemArray& newItems) {
+    // An item the cache keeps comes back as the same object: most matches
+    // are found by address, and only what isn't is looked for by the
+    // collection's own rule. A large list thus merges in linear time.
+    std::unordered_map<KyDiDynamicObject*, int> byAddress;
+    byAddress.reserve(static_cast<std::size_t>(newItems.length()));
+    for (int i = 0; i < newItems.length(); ++i) {
+        byAddress.emplace(newItems[i], i);
+    }
+    std::vector<bool> matched(static_cast<std::size_t>(newItems.length()), false);
+    std::vector<bool> kept(static_cast<std::size_t>(items.length()), true);
     for (int i = items.length() - 1; i >= 0; --i) {
         KyDiDynamicObject* entry = items[i];
-        const int k = subFindItem(newItems, entry);
+        const auto same = byAddress.find(entry);
+        int k = same != byAddress.end() ? same->second : subFindItem(newItems, entry);
+        if (k >= 0 && matched[static_cast<std::size_t>(k)]) {
+            k = -1;
+        }
         if (k < 0) {
             removed.append(entry);
-            items.removeAt(i);
+            kept[static_cast<std::size_t>(i)] = false;
             continue;
         }
+        matched[static_cast<std::size_t>(k)] = true;
         // For an item the cache keeps, the new pointer is the same object;
         // its name is read from the record as it stands now.
-        if (KyDiGetItemName(newItems[k]).compare(KyDiGetItemName(entry)) != 0) {
+        if (newItems[k] != entry &&
+            KyDiGetItemName(newItems[k]).compare(KyDiGetItemName(entry)) != 0) {
             modified.append(entry);
         }
-        newItems.removeAt(k);
+    }
+    if (!removed.isEmpty()) {
+        int to = 0;
+        for (int i = 0; i < items.length(); ++i) {
+            if (kept[static_cast<std::size_t>(i)]) {
+                items[to++] = items[i];
+            }
+        }
+        items.setLogicalLength(to);
     }
     for (int i = 0; i < newItems.length(); ++i) {
-        added.append(newItems[i]);
-        items.append(newItems[i]);
+        if (!matched[static_cast<std::size_t>(i)]) {
+            added.append(newItems[i]);
+            items.append(newItems[i]);
+        }
     }
     newItems.setLogicalLength(0);
 }

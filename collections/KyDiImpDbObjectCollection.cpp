@@ -88,13 +88,31 @@ void KyDiImpDbObjectCollection::subCollectModified(KyDiItemArray& modified) {
         if (id.isErased()) {
             continue;
         }
-        for (int i = 0; i < items.length(); ++i) {
-            if (idOf(items[i]) == id) {
-                modified.append(items[i]);
-                break;
-            }
+        const int index = indexOfRecord(id);
+        if (index >= 0) {
+            modified.append(items[index]);
         }
     }
+}
+
+int KyDiImpDbObjectCollection::indexOfRecord(KyDbObjectId id) {
+    // The positions are a hint: a position is trusted only when the item
+    // there still stands for the record, and a miss is only believed once
+    // the positions were taken afresh from the list as it is.
+    const auto hint = m_positions.find(id);
+    if (hint != m_positions.end() && hint->second < items.length() &&
+        idOf(items[hint->second]) == id) {
+        return hint->second;
+    }
+    m_positions.clear();
+    for (int i = 0; i < items.length(); ++i) {
+        const KyDbObjectId itemId = idOf(items[i]);
+        if (!itemId.isNull()) {
+            m_positions.emplace(itemId, i);
+        }
+    }
+    const auto found = m_positions.find(id);
+    return found != m_positions.end() ? found->second : -1;
 }
 
 void KyDiImpDbObjectCollection::subClearPending() {

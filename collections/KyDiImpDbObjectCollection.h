@@ -13,6 +13,7 @@
 //   the owner leaves memory  -> deactivate now   -> collectionReset
 #pragma once
 
+#include <map>
 #include <set>
 
 #include "collections/KyDiImpCollectionBase.h"
@@ -68,8 +69,13 @@ protected:
     PendingObjects& mutablePendingObjects() { return m_pendingObjects; }
 
 private:
+    // The position of record `id` in the list; -1 when no item stands for it.
+    int indexOfRecord(KyDbObjectId id);
+
     KyDbObjectId m_ownerId;
     KyArray<KyDbObjectId> m_watchedErased;
     PendingObjects m_pendingObjects;
+    // Where each record stood in the list when last looked at.
+    std::map<KyDbObjectId, int, IdOrder> m_positions;
     KyDiObjectModifiedReactor<KyDiImpDbObjectCollection>* m_objectReactor;
 };

@@ -47,10 +47,14 @@ protected:
         EXPECT_EQ(db()->getKyDbObjectId(id, KyDbHandle(handle)), Kyro::eOk);
         return id;
     }
-    // Works in viewport `id` (null: model space), as the host names it.
-    void workIn(KyDbObjectId id) {
-        host.viewportService()->setCurrentViewportId(id);
-        host.viewportService()->setViewportEntityId(id);
+    // Brings `layout` forward and enters its viewport `id`, as a user
+    // clicking into it; "Model" alone shows model space.
+    void workIn(const wchar_t* layout, KyDbObjectId id = KyDbObjectId()) {
+        ASSERT_TRUE(host.plotService()->setLayoutByName(layout));
+        if (!id.isNull()) {
+            KyString reason;
+            ASSERT_EQ(host.enterViewport(id, &reason), Kyro::eOk) << reason.utf8();
+        }
     }
     // The viewport context reports at the end of a pass; the layers hear it
     // then and report at the next.
@@ -103,7 +107,7 @@ TEST_F(LayerCollection, AViewportSwitchReportsWhatDiffersOnePassAfterTheViewport
     const KyDbObjectId frozenViewport = byHandle(0x2D);
     const KyDbObjectId otherViewport = byHandle(0x2E);
 
-    workIn(frozenViewport);
+    workIn(L"Details", frozenViewport);
     pass();
     EXPECT_EQ(spy.take(), Lines{}) << "the viewport reports at the end of this pass";
     pass();
@@ -112,7 +116,7 @@ TEST_F(LayerCollection, AViewportSwitchReportsWhatDiffersOnePassAfterTheViewport
 
     // Another viewport: thawed there (3), Furniture loses its overrides and
     // Walls keeps overrides of its own.
-    workIn(otherViewport);
+    workIn(L"Plan", otherViewport);
     twoPasses();
     EXPECT_EQ(sortedModified(spy.take()), "Dimensions Furniture Hatch Text Walls");
 
@@ -128,7 +132,7 @@ TEST_F(LayerCollection, AViewportSwitchReportsWhatDiffersOnePassAfterTheViewport
     EXPECT_EQ(spy.take(), (Lines{"itemsModified [Walls]"}));
 
     // Model space: Walls one last time, as it has lost its overrides.
-    workIn(KyDbObjectId());
+    workIn(L"Model");
     twoPasses();
     EXPECT_EQ(spy.take(), (Lines{"itemsModified [Walls]"}));
     twoPasses();
@@ -137,13 +141,12 @@ TEST_F(LayerCollection, AViewportSwitchReportsWhatDiffersOnePassAfterTheViewport
 }
 
 TEST_F(LayerCollection, BindingToADocumentInAViewportReportsNothingNewOfItsOwn) {
-    const KyDbObjectId frozenViewport = byHandle(0x2D);
+    workIn(L"Details", byHandle(0x2D));
+    twoPasses();
     host.documents().newDocument();
-    workIn(KyDbObjectId());
     twoPasses();
     ContractChecker checker(layers, "LAYER");
     CollectionSpy spy(layers);
-    workIn(frozenViewport);
     host.documents().makeCurrent(host.documents().at(0));
     twoPasses();
     const Lines lines = spy.take();

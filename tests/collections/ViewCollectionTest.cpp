@@ -7,7 +7,13 @@
 
 #include "KyRefViewportService.h"
 #include "collections/CollectionFixture.h"
+#include "db/KyAxDocLock.h"
+#include "db/KyDbBlockTableRecord.h"
 #include "db/KyDbDatabase.h"
+#include "db/KyDbObjectPointer.h"
+#include "db/KyDbStandardContent.h"
+#include "db/KyDbSymbolTable.h"
+#include "db/KyDbViewport.h"
 #include "kydi/KyDiFunctions.h"
 
 namespace {
@@ -21,6 +27,24 @@ protected:
     using CollectionFixture::CollectionFixture;
 
     KyRefViewportService& viewports() { return *host.viewportService(); }
+    // The paper and one viewport on the first layout; the viewport's id.
+    KyDbObjectId addLayoutViewports() {
+        KyDbDatabase* database = db();
+        const KyAxDocLock lock(database);
+        KyDbObjectId paperId;
+        {
+            KyDbObjectPointer<KyDbSymbolTable> blocks(database->blockTableId(), KyDb::kForRead);
+            blocks->getAt(KyDbStandardContent::kPaperSpaceName, paperId);
+        }
+        KyDbObjectPointer<KyDbBlockTableRecord> paper(paperId, KyDb::kForWrite);
+        KyDbObjectId id;
+        for (int i = 0; i < 2; ++i) {
+            auto* viewport = new KyDbViewport();
+            EXPECT_EQ(paper->appendKyDbEntity(id, viewport), Kyro::eOk);
+            viewport->close();
+        }
+        return id;
+    }
     // The host says that whatever is shown may be stale: currency is asked
     // again.
     void invalidate() {
@@ -40,6 +64,7 @@ protected:
 };
 
 TEST_F(ViewCollections, CrossingBetweenPaperAndModelSpaceResetsTheViewsOfTheSpaceOnly) {
+    const KyDbObjectId entered = addLayoutViewports();
     addView(L"Plan", {0.0, 50.0, 0.0});
     addView(L"Sheet", {0.0, 80.0, 0.0}, true);
     KyDiObservableCollection* views = known(L"NAMEDVIEWS");
@@ -59,11 +84,11 @@ TEST_F(ViewCollections, CrossingBetweenPaperAndModelSpaceResetsTheViewsOfTheSpac
     EXPECT_EQ(spy.take(), reset) << "on the layout's paper";
     EXPECT_EQ(names(views), (Lines{"Sheet"}));
     // A viewport of the layout entered, and left again.
-    type(L"CVPORT\n2\n");
+    ASSERT_EQ(host.enterViewport(entered), Kyro::eOk);
     pass();
     EXPECT_EQ(spy.take(), reset);
     EXPECT_EQ(names(views), (Lines{"Plan"}));
-    type(L"CVPORT\n1\n");
+    ASSERT_EQ(host.leaveViewport(), Kyro::eOk);
     pass();
     EXPECT_EQ(names(views), (Lines{"Sheet"}));
     spy.take();
@@ -119,38 +144,43 @@ TEST_F(ViewCollections, TheHostsOwnViewportConfigurationsAreNeitherListedNorRepo
 }
 
 TEST_F(ViewCollections, TheTrackerShowsAViewAndFindsTheViewRememberedOrTheLastThatMatches) {
-    // The active configuration of model space keys its viewport.
+    // Model space shows the view of its active configuration; a layout's
+    // viewport, entered, is another viewport with a view of its own.
     addViewport(L"*Active");
-    const KyDbObjectId second = addViewport(L"Second");
-    addView(L"North", {0.0, 10.0, 0.0});
+    const KyDbObjectId entered = addLayoutViewports();
+    const KyDbObjectId north = addView(L"North", {0.0, 10.0, 0.0});
     addView(L"South", {0.0, -10.0, 0.0});
     addView(L"Twin", {0.0, 10.0, 0.0});
-    KyDiObservableCollection* views = known(L"NAMEDVIEWS");
+    KyDiObservableCollection* views = known(L"NAMEDMODELVIEWS");
     EXPECT_EQ(views->getCurrentItem(), nullptr) << "the viewport shows none of them";
     pass();
-    ContractChecker checker(views, "NAMEDVIEWS");
+    ContractChecker checker(views, "NAMEDMODELVIEWS");
     CollectionSpy spy(views);
 
     views->setCurrentItem(item(views, "North"));
-    EXPECT_EQ(viewports().view().center, KyGePoint3d(0.0, 10.0, 0.0)) << "shown at once";
+    KyGePoint3d center;
+    viewports().getViewPoint(center, KyDiViewportService::kViewCenter);
+    EXPECT_EQ(center, KyGePoint3d(0.0, 10.0, 0.0)) << "shown at once";
     EXPECT_EQ(sentTexts(), std::vector<std::wstring>{}) << "without a command";
     invalidate();
     EXPECT_EQ(spy.take(), Lines{}) << "the view it showed is still shown: nothing new";
     EXPECT_EQ(views->getCurrentItem(), nullptr);
 
     // Another viewport remembers nothing: from the end, Twin shows the same.
-    viewports().setCurrentViewportId(second);
+    ASSERT_TRUE(host.plotService()->setLayoutByName(L"Layout1"));
+    ASSERT_EQ(host.enterViewport(entered), Kyro::eOk);
+    ASSERT_EQ(viewports().restoreView(north), Kyro::eOk);
     invalidate();
     EXPECT_EQ(spy.take(), (Lines{"currentItemChanged Twin"}));
-    // Back in the first one, North is remembered and still shown.
-    viewports().setCurrentViewportId(KyDbObjectId());
+    // Back in model space, North is remembered and still shown.
+    ASSERT_TRUE(host.plotService()->setLayoutByName(L"Model"));
     invalidate();
     EXPECT_EQ(spy.take(), (Lines{"currentItemChanged null"}));
     // The user pans to what South holds: the remembered view no longer
     // matches.
-    KyRefViewportService::View view = viewports().view();
-    view.center = KyGePoint3d(0.0, -10.0, 0.0);
-    viewports().setView(view);
+    ASSERT_EQ(
+        viewports().setViewPoint(KyGePoint3d(0.0, -10.0, 0.0), KyDiViewportService::kViewCenter),
+        Kyro::eOk);
     invalidate();
     EXPECT_EQ(spy.take(), (Lines{"currentItemChanged South"}));
     checker.expectInStep();

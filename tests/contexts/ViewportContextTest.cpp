@@ -103,8 +103,6 @@ TEST_F(ViewportContext, ListsItsNinePropertiesInOrderAndReadsThemFromTheHost) {
     EXPECT_EQ(read(L"LensLength"), "50 (0)");
     EXPECT_EQ(read(L"IsNavBoxVisible"), "true (0)");
     EXPECT_EQ(read(L"IsViewPortUnLocked"), "true (0)");
-    host.viewportService()->setViewLocked(true);
-    EXPECT_EQ(read(L"IsViewPortUnLocked"), "false (0)");
 
     // The camera is written and read back through the host.
     const KyRxProperty* camera = property(L"CameraLocation");

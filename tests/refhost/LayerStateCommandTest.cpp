@@ -103,7 +103,7 @@ TEST_F(LayerStateCommandTest, AStateThatCantBeWrittenFailsTheOption) {
 }
 
 TEST_F(LayerStateCommandTest, ARestoreTakesTheLayerServicesFlagsAndTheViewportShown) {
-    host->viewportService()->setViewportEntityId(object(L"41"));
+    ASSERT_EQ(host->enterViewport(object(L"41")), Kyro::eOk);
     runToEnd(L"-LAYER\nSTate\nSave\nPlan\n\n");
     addLayer(L"Extra");
     run(L"VPLAYER\nFreeze\nDoors\nCurrent\n\n");
