@@ -1,5 +1,6 @@
 #include "manager/KnownCollectionRows.h"
 
+#include "collections/KyDiImpDataLayerStateCollection.h"
 #include "collections/KyDiImpDataLayoutItemCollection.h"
 #include "collections/KyDiImpDataMaterialItemCollection.h"
 #include "collections/KyDiImpDataPlotSettingsItemCollection.h"
@@ -13,6 +14,7 @@
 #include "currency/DataItemCurrencyTracker.h"
 #include "currency/LayerCurrencyTracker.h"
 #include "currency/LayerFilterCurrencyTracker.h"
+#include "currency/LayerStateCurrencyTracker.h"
 #include "currency/RenderPresetCurrencyTracker.h"
 #include "currency/UCSCurrencyTracker.h"
 #include "currency/ViewCurrencyTracker.h"
@@ -32,8 +34,7 @@ KyDiCurrencyTracker* newTracker(const wchar_t* name, const wchar_t* sysVar,
 KyDiCurrencyTracker* newDataItemTracker(const wchar_t* name, const wchar_t* sysVar,
                                         const wchar_t* commandFormat, KyDbIdGetter getCurrent,
                                         KyDbIdSetter setCurrent) {
-    return newTracker<DataItemCurrencyTracker>(name, sysVar, commandFormat, getCurrent,
-                                               setCurrent);
+    return newTracker<DataItemCurrencyTracker>(name, sysVar, commandFormat, getCurrent, setCurrent);
 }
 
 // The UCS tracker listens to the variable of the named views, whatever its
@@ -112,7 +113,8 @@ const KnownCollectionRow kRows[] = {
      L"plotSettingsDictionaryId/Items"},
     {L"KYRO_VISUALSTYLE", &newTracker<VisualStyleCurrencyTracker>, nullptr, nullptr, nullptr,
      nullptr, nullptr, nullptr, L"/VisualStyleDictionaryId/Items"},
-    {L"KYRO_LAYERSTATES", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
+    {L"KYRO_LAYERSTATES", &newTracker<LayerStateCurrencyTracker>, nullptr, nullptr, nullptr,
+     nullptr, &newCollection<KyDiImpDataLayerStateCollection>, nullptr, nullptr},
     {L"NAMEDVIEWS", &newTracker<ViewCurrencyTracker>, nullptr, nullptr, nullptr, &Db::viewTableId,
      &newViewCollection<false>, nullptr, nullptr},
     {L"KYRO_PLOTSTYLENAME", nullptr, L"CPLOTSTYLE", nullptr, nullptr, nullptr, nullptr, nullptr,

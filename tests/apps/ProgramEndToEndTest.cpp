@@ -290,7 +290,7 @@ std::vector<std::string> keptRecords(const KyRefJson& records, bool leaveOutDepe
     return names;
 }
 
-TEST_F(Program, TheTableCollectionsOfEveryRealDrawingKeepItsRecordsAndItsCurrentOnes) {
+TEST_F(Program, TheTableCollectionsOfEveryRealDrawingKeepItsRecordsStatesAndCurrentOnes) {
     const char* drawings = std::getenv("KYDI_DRAWINGS_DIR");
     if (drawings == nullptr || !fs::exists(fs::path(drawings) / "MANIFEST.tsv")) {
         GTEST_SKIP() << "the real drawings are not beside the checkout";
@@ -300,7 +300,8 @@ TEST_F(Program, TheTableCollectionsOfEveryRealDrawingKeepItsRecordsAndItsCurrent
         const char* table;
         const char* variable;
         bool leaveOutDependent;
-    } kTables[] = {{"LINETYPE", "linetypes", "CELTYPE", true},
+    } kTables[] = {{"LAYER", "layers", "CLAYER", false},
+                   {"LINETYPE", "linetypes", "CELTYPE", true},
                    {"TEXTSTYLE", "textStyles", "TEXTSTYLE", false},
                    {"DIMSTYLE", "dimStyles", "DIMSTYLE", false}};
     int drawingsSeen = 0;
@@ -330,6 +331,24 @@ TEST_F(Program, TheTableCollectionsOfEveryRealDrawingKeepItsRecordsAndItsCurrent
             EXPECT_EQ((*collection)["current"], dump["header"][table.variable])
                 << file << " " << table.collection;
             EXPECT_TRUE((*collection)["active"].get<bool>()) << file;
+        }
+        // Each layer shows the states of its record.
+        const KyRefJson& records = dump["tables"]["layers"];
+        for (const KyRefJson& collection : dump["collections"]) {
+            if (collection["name"] != "LAYER") {
+                continue;
+            }
+            ASSERT_EQ(collection["items"].size(), records.size()) << file;
+            for (std::size_t i = 0; i < records.size(); ++i) {
+                const KyRefJson& shown = collection["items"][i]["properties"];
+                for (const char* state : {"off", "frozen", "locked"}) {
+                    EXPECT_EQ(shown[state], records[i].value(state, false) ? "true" : "false")
+                        << file << " " << records[i]["name"] << " " << state;
+                }
+                EXPECT_EQ(shown["plottable"],
+                          records[i].value("plottable", true) ? "true" : "false")
+                    << file << " " << records[i]["name"];
+            }
         }
     }
     EXPECT_GT(drawingsSeen, 5);
