@@ -122,11 +122,11 @@ public:
     int resets = 0;
 };
 
-// The layer command that changes the colour of one layer, by its literal
-// name, to another colour each time it is asked for.
+// The layer command that changes the colour of one layer of the drawing of
+// `count` layers, by its literal name, to another colour each time.
 KyString colorCommand(int count) {
-    static int s_commands = 0;
-    return KyString::formatted(L"'_.-LAYER\n_Color\n%d\n=L%d\n\n", 1 + s_commands++ % 2,
+    static std::map<int, int> s_commands;
+    return KyString::formatted(L"'_.-LAYER\n_Color\n%d\n=L%d\n\n", 1 + s_commands[count]++ % 2,
                                count / 2);
 }
 
@@ -180,8 +180,7 @@ void BM_RefillAfterANewLayer(benchmark::State& state) {
         state.PauseTiming();
         {
             const KyAxDocLock lock(session.db());
-            KyDbObjectPointer<KyDbSymbolTable> table(session.db()->layerTableId(),
-                                                     KyDb::kForWrite);
+            KyDbObjectPointer<KyDbSymbolTable> table(session.db()->layerTableId(), KyDb::kForWrite);
             auto* record = new KyDbLayerTableRecord();
             record->setName(KyString::formatted(L"New%d", s_added++));
             table->add(record);

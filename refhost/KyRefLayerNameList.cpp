@@ -1,5 +1,7 @@
 #include "KyRefLayerNameList.h"
 
+#include <algorithm>
+
 #include "KyRefCommandContext.h"
 #include "KyRefReadAccess.h"
 #include "db/KyDbDatabase.h"
@@ -30,6 +32,39 @@ std::vector<Layer> layersOf(KyDbDatabase* database) {
         }
     }
     return layers;
+}
+
+// The layers of names that are no patterns, in table order, each once; a
+// name that finds none fails the command as the match would.
+std::vector<KyDbObjectId> lookUp(KyRefCommandContext& context,
+                                 const std::vector<KyRefNamePattern>& names) {
+    std::vector<KyDbObjectId> ids;
+    KyRefReadAccess<KyDbSymbolTable> table(context.database()->layerTableId());
+    if (!table) {
+        return ids;
+    }
+    for (const KyRefNamePattern& name : names) {
+        KyDbObjectId id;
+        if (table->getAt(name.name().kwszPtr(), id) != Kyro::eOk) {
+            context.fail(L"Cannot find layer \"%ls\".", name.typedText().kwszPtr());
+            continue;
+        }
+        if (std::find(ids.begin(), ids.end(), id) == ids.end()) {
+            ids.push_back(id);
+        }
+    }
+    if (ids.size() > 1) {
+        KyArray<KyDbObjectId> order;
+        table->getRecordIds(order);
+        std::vector<KyDbObjectId> sorted;
+        for (const KyDbObjectId& id : order) {
+            if (std::find(ids.begin(), ids.end(), id) != ids.end()) {
+                sorted.push_back(id);
+            }
+        }
+        ids = std::move(sorted);
+    }
+    return ids;
 }
 
 }  // namespace
@@ -70,6 +105,12 @@ std::vector<KyRefNamePattern> KyRefLayerNameList::read(const KyString& answer) {
 std::vector<KyDbObjectId> KyRefLayerNameList::resolve(KyRefCommandContext& context,
                                                       const KyString& answer) {
     const std::vector<KyRefNamePattern> names = read(answer);
+    // Names without wild cards are looked up, not matched against every
+    // layer: a command on one layer of many costs the same as on one of few.
+    if (std::none_of(names.begin(), names.end(),
+                     [](const KyRefNamePattern& name) { return name.isWildCard(); })) {
+        return lookUp(context, names);
+    }
     std::vector<Layer> layers = layersOf(context.database());
     for (const KyRefNamePattern& name : names) {
         bool found = false;
