@@ -139,6 +139,10 @@ TEST_F(Program, AnOffLayerMadeCurrentIsTurnedOnWhenTheUserSaysYesAndOnlyWhenAske
     expectScript("current_off_layer", 0);
 }
 
+TEST_F(Program, EnteringAViewportReportsItsFrozenAndOverriddenLayersAndLeavingItAgain) {
+    expectScript("viewport_layers", 0);
+}
+
 TEST_F(Program, ContextsAreListedReadWrittenAndWatched) {
     expectScript("contexts", 1);
 }

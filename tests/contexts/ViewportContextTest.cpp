@@ -174,6 +174,44 @@ TEST_F(ViewportContext, ReportsUnitVariablesByNameTheViewportObjectByMaskAndNoth
     EXPECT_EQ(read(L"ViewResolution"), "500 (0)");
 }
 
+TEST_F(ViewportContext, ViewAndLensReachItThroughTheViewportObjectAndItFollowsTheViewportShown) {
+    KyString error;
+    ASSERT_NE(host.documents().openDocument(KyString::fromUtf8(KYDI_TEST_SAMPLE), error), nullptr);
+    pass();
+    ContextSpy spy(context);
+
+    // Written through the context, read back from the drawing's own record.
+    ASSERT_EQ(property(L"CameraLocation")->setValue(context, KyRxValue(KyGePoint3d(5, 5, 40))),
+              Kyro::eOk);
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"- 2"})) << "through the closing of the model space record";
+    ASSERT_EQ(property(L"LensLength")->setValue(context, KyRxValue(35.0)), Kyro::eOk);
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"- 2"}));
+    EXPECT_EQ(read(L"LensLength"), "35 (0)");
+
+    // Another layout, and a viewport of it entered: the context moves to the
+    // object that holds the view shown.
+    ASSERT_TRUE(host.plotService()->setLayoutByName(L"Plan"));
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"- 3"}));
+    KyDbObjectId entered;
+    ASSERT_EQ(host.documents().currentDatabase()->getKyDbObjectId(entered, KyDbHandle(0x2E)),
+              Kyro::eOk);
+    ASSERT_EQ(host.enterViewport(entered), Kyro::eOk);
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"- 3"}));
+    EXPECT_EQ(read(L"LensLength"), "50 (0)") << "the entered viewport's own lens";
+    ASSERT_EQ(property(L"LensLength")->setValue(context, KyRxValue(80.0)), Kyro::eOk);
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"- 2"}));
+    ASSERT_EQ(host.leaveViewport(), Kyro::eOk);
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"- 3"}));
+    pass();
+    EXPECT_EQ(spy.take(), Lines{});
+}
+
 TEST_F(ViewportContext, ADocumentSwitchIsOneReportWithoutNamesOrMask) {
     ManagerSpy manager(KyDiManager::getContextManager());
     pass();
