@@ -48,6 +48,9 @@ protected:
 
     // A forced pass.
     static void pass() { KyDiManager::refresh(); }
+    // The item of `collection` whose display name is `name`; null, and a
+    // failure of the test, when there is none.
+    static KyDiDynamicObject* item(KyDiObservableCollection* collection, const char* name);
     // The display names of the items, in order.
     static std::vector<std::string> names(KyDiObservableCollection* collection);
     static KyDiObservableCollection* known(const wchar_t* name) {

@@ -24,16 +24,6 @@ protected:
     using CollectionFixture::CollectionFixture;
 
     KyDbLayerStateManager& manager() { return *db()->getLayerStateManager(); }
-    static KyDiDynamicObject* item(KyDiObservableCollection* collection, const char* name) {
-        const KyDiItemArray& items = collection->getItems();
-        for (int i = 0; i < items.length(); ++i) {
-            if (kytest::itemName(items[i]) == name) {
-                return items[i];
-            }
-        }
-        ADD_FAILURE() << "no item " << name;
-        return nullptr;
-    }
 };
 
 TEST_F(LayerStates, TheFirstStateSavedResetsAnEmptyListAndHiddenStatesAreLeftOut) {

@@ -51,16 +51,6 @@ protected:
         host.events().raiseInvalidateAll();
         pass();
     }
-    static KyDiDynamicObject* item(KyDiObservableCollection* collection, const char* name) {
-        const KyDiItemArray& items = collection->getItems();
-        for (int i = 0; i < items.length(); ++i) {
-            if (kytest::itemName(items[i]) == name) {
-                return items[i];
-            }
-        }
-        ADD_FAILURE() << "no item " << name;
-        return nullptr;
-    }
 };
 
 TEST_F(ViewCollections, CrossingBetweenPaperAndModelSpaceResetsTheViewsOfTheSpaceOnly) {
