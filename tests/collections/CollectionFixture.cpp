@@ -146,8 +146,7 @@ std::vector<std::string> CollectionFixture::names(KyDiObservableCollection* coll
     return result;
 }
 
-KyDiDynamicObject* CollectionFixture::item(KyDiObservableCollection* collection,
-                                           const char* name) {
+KyDiDynamicObject* CollectionFixture::item(KyDiObservableCollection* collection, const char* name) {
     const KyDiItemArray& items = collection->getItems();
     for (int i = 0; i < items.length(); ++i) {
         if (itemName(items[i]) == name) {
