@@ -163,7 +163,17 @@ Kyro::ErrorStatus KyDbLayerStateManager::getLastRestoredLayerState(KyString& nam
     if (m_lastRestoredId.isNull() || !m_lastRestoredId.isValid() || m_lastRestoredId.isErased()) {
         return Kyro::eKeyNotFound;
     }
+    // The state's name as it stands now: it may have been renamed since.
     name = m_lastRestoredName;
+    {
+        KyDbObjectPointer<KyDbLayerState> state(m_lastRestoredId, KyDb::kForRead);
+        KyDbObjectPointer<KyDbDictionary> dictionary(
+            state ? state->ownerId() : KyDbObjectId(), KyDb::kForRead);
+        KyString current;
+        if (dictionary && dictionary->nameAt(m_lastRestoredId, current) == Kyro::eOk) {
+            name = current;
+        }
+    }
     id = m_lastRestoredId;
     return Kyro::eOk;
 }

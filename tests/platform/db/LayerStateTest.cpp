@@ -7,6 +7,7 @@
 
 #include "DbTestSupport.h"
 #include "db/KyAxDocLock.h"
+#include "db/KyDbDictionary.h"
 #include "db/KyDbLayerState.h"
 #include "db/KyDbLayerStateManager.h"
 #include "db/KyDbViewport.h"
@@ -175,6 +176,15 @@ TEST_F(LayerStateTest, ARestoreWritesOnlyTheLayersThatDifferAndTellsTheState) {
     EXPECT_EQ(manager->restoreLayerState(L"Nowhere", {}, 0, nullptr), Kyro::eKeyNotFound);
     ASSERT_EQ(manager->getLastRestoredLayerState(name, id), Kyro::eOk);
     EXPECT_EQ(id, plan) << "a failed restore leaves the last one";
+
+    // Renamed since: the last restored state answers its name as it is now.
+    {
+        KyDbObjectPointer<KyDbDictionary> states(manager->layerStatesDictionaryId(false),
+                                                 KyDb::kForWrite);
+        ASSERT_EQ(states->setName(L"Plan", L"Ground floor"), Kyro::eOk);
+    }
+    ASSERT_EQ(manager->getLastRestoredLayerState(name, id), Kyro::eOk);
+    EXPECT_EQ(name, KyString(L"Ground floor"));
 }
 
 TEST_F(LayerStateTest, RestoreFlagsTurnOffAndFreezeOtherLayersButNeverFreezeTheCurrentOne) {
