@@ -153,6 +153,25 @@ TEST_F(RecordCommandTest, EveryKindIsMadeRenamedAndErasedInItsTableOrDictionary)
     }
 }
 
+TEST_F(RecordCommandTest, ANewRecordOfEveryKindIsSavedAndReadBack) {
+    for (const KindCase& kind : kKinds) {
+        runRecord((L"RECORD\n_New\n" + std::wstring(kind.word) + L"\nAlpha\n").c_str());
+    }
+    const fs::path file =
+        fs::temp_directory_path() / ("kydi-new-records-" + std::to_string(getpid()) + ".kyd");
+    KyString error;
+    ASSERT_TRUE(host->documents().saveDocument(host->documents().current(),
+                                               KyString::fromUtf8(file.string()), error))
+        << error.utf8();
+    KyRefDocument* reopened =
+        host->documents().openDocument(KyString::fromUtf8(file.string()), error);
+    fs::remove(file);
+    ASSERT_NE(reopened, nullptr) << error.utf8();
+    for (const KindCase& kind : kKinds) {
+        EXPECT_FALSE(find(kind.container, L"Alpha").isNull()) << utf8(kind.word);
+    }
+}
+
 TEST_F(RecordCommandTest, ALayoutComesWithABlockOfItsOwnWhichGoesWithIt) {
     runRecord(L"RECORD\n_New\nLAYOUT\nSheet\n");
     const KyDbObjectId sheet = find(&KyDbDatabase::layoutDictionaryId, L"Sheet");
