@@ -22,6 +22,7 @@
 #include "db/KyDbPlotSettings.h"
 #include "db/KyDbTableStyle.h"
 #include "db/KyDbTextStyleTableRecord.h"
+#include "db/KyDbViewportTableRecord.h"
 #include "db/KyDbVisualStyle.h"
 
 namespace refhost {
@@ -205,6 +206,8 @@ TEST_F(RecordCommandTest, BadInputAndWhatTheDrawingRefusesAreErrorLinesThatChang
     DrawingContent content(db());
     const KyDbObjectId mono =
         content.addRecord<KyDbTextStyleTableRecord>(db()->textStyleTableId(), L"Mono");
+    const KyDbObjectId spare =
+        content.addRecord<KyDbViewportTableRecord>(db()->viewportTableId(), L"*Spare");
     {
         KyAxDocLock lock(db());
         db()->undoController()->setRecording(false);
@@ -223,6 +226,10 @@ TEST_F(RecordCommandTest, BadInputAndWhatTheDrawingRefusesAreErrorLinesThatChang
     expectRefused(L"RECORD\n_New\nMATERIAL\nX|Y\n", "Invalid material name \"X|Y\".");
     expectRefused(L"RECORD\n_New\nVIEWPORT\n*Active\n",
                   "Invalid viewport configuration name \"*Active\".");
+    expectRefused(L"RECORD\n_Rename\nVIEWPORT\n*spare\n",
+                  "Cannot rename viewport configuration \"*Spare\": it is the drawing's own.");
+    expectRefused(L"RECORD\n_Erase\nVIEWPORT\n*Spare\n",
+                  "Cannot erase viewport configuration \"*Spare\": it is the drawing's own.");
     expectRefused(L"RECORD\n_Rename\nLINETYPE\nDashed\n", "Cannot find linetype \"Dashed\".");
     expectRefused(L"RECORD\n_Rename\nLAYER\nWalls\nDoors\n",
                   "A layer named \"Doors\" already exists.");
@@ -254,6 +261,7 @@ TEST_F(RecordCommandTest, BadInputAndWhatTheDrawingRefusesAreErrorLinesThatChang
 
     EXPECT_EQ(db()->undoController()->undoCount(), undoCount) << "nothing was recorded";
     EXPECT_FALSE(walls.isErased());
+    EXPECT_FALSE(spare.isErased());
     EXPECT_EQ(getString(L"CLAYER"), "Walls");
 }
 
