@@ -156,17 +156,22 @@ std::vector<KyString> KyRefHost::endChangeReport() {
 void KyRefHost::raiseVariableChanges(const std::vector<KyString>& names) {
     bool layout = false;
     bool ucs = false;
+    bool resolution = false;
     for (const KyString& name : names) {
         m_events.raiseSysVarChanged(name, true);
         layout = layout || name.compareNoCase(L"CTAB") == 0;
         ucs = ucs || name.compareNoCase(L"UCSNAME") == 0 || name.compareNoCase(L"UCSORG") == 0 ||
               name.compareNoCase(L"UCSXDIR") == 0 || name.compareNoCase(L"UCSYDIR") == 0;
+        resolution = resolution || name.compareNoCase(L"VIEWRES") == 0;
     }
     if (layout) {
         m_events.raiseLayoutChanged();
     }
     if (ucs) {
         m_events.raiseUcsChanged();
+    }
+    if (resolution) {
+        regenerateAll();
     }
 }
 

@@ -14,7 +14,7 @@
 // refused write: sysVarChanged(name, false)). Inside a command the changes
 // are told once, when the command ends. A change of CTAB is followed by
 // layoutChanged, of the current UCS (UCSNAME, UCSORG, UCSXDIR, UCSYDIR) by
-// one ucsChanged.
+// one ucsChanged, of the view resolution (VIEWRES) by a regeneration.
 //
 // Layouts and viewports. Any layout becomes current through CTAB (the plot
 // service's setLayoutByName writes it too): TILEMODE follows, and CVPORT
@@ -125,8 +125,8 @@ public:
     void beginChangeReport();
     std::vector<KyString> endChangeReport();
     bool isGatheringChanges() const { return m_reportDepth > 0; }
-    // Raises sysVarChanged(name, true) for each name, then layoutChanged and
-    // ucsChanged as the names call for.
+    // Raises sysVarChanged(name, true) for each name, then layoutChanged,
+    // ucsChanged and a regeneration as the names call for.
     void raiseVariableChanges(const std::vector<KyString>& names);
 
     // ---- Told by the documents

@@ -378,8 +378,9 @@ constexpr int kSaveState = 0;
 constexpr int kRestoreState = 1;
 
 // The layer states of the drawing: saves the layers as a state (all their
-// properties), restores one with the layer service's restore flags, or
-// deletes one. States go by the viewport the host shows, if any.
+// properties; over a hidden state of the name, a new state), restores one
+// with the layer service's restore flags, or deletes one. States go by the
+// viewport the host shows, if any.
 void state(LayerRun& run) {
     const KyString prompt = KyString::formatted(L"Enter a layer state option %ls: ",
                                                 KyRefKeywords::options(kStateKeywords).kwszPtr());
@@ -403,6 +404,14 @@ void state(LayerRun& run) {
     }
     KyDbLayerStateManager* manager = run.context.database()->getLayerStateManager();
     if (option == kSaveState) {
+        // A hidden state is none that the user sees: a state saved under its
+        // name replaces it, as a new state, so that whoever lists the states
+        // (and leaves hidden ones alone) hears of it through their dictionary.
+        int mask = 0;
+        if (manager->getLayerStateMask(name, mask) == Kyro::eOk && mask < 0 &&
+            manager->deleteLayerState(name) != Kyro::eOk) {
+            run.context.fail(L"Cannot save layer state \"%ls\".", name.kwszPtr());
+        }
         if (manager->saveLayerState(name, 0, viewportId) != Kyro::eOk) {
             run.context.fail(L"Cannot save layer state \"%ls\".", name.kwszPtr());
         }

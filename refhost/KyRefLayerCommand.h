@@ -14,7 +14,8 @@
 //   LOck, Unlock
 //   Filter            Set and a filter's name: makes that layer filter current
 //   STate             Save, Restore or Delete, then the name of a layer state:
-//                     saves the layers (every property), restores a state
+//                     saves the layers (every property; a hidden state of
+//                     the name is replaced by a new one), restores a state
 //                     with the layer service's restore flags, or deletes
 //                     one; in the viewport the host shows, if any. An
 //                     unknown name fails the command

@@ -51,8 +51,9 @@ void checkNewName(RecordRun& run, const KyString& name, KyDbObjectId renamed = K
 }
 
 // Asks for the record to act on and returns it, with its name as the drawing
-// holds it; an empty answer returns null. A name that names nothing, or a
-// record of an external reference, ends the command.
+// holds it; an empty answer returns null. A name that names nothing, a
+// record of an external reference, and one of the drawing's own (its name
+// begins with "*", which no name a user gives does) end the command.
 KyDbObjectId askForRecord(RecordRun& run, const wchar_t* verb, KyString& name) {
     const KyString typed = run.context.readName(
         KyString::formatted(L"Enter name of %ls to %ls: ", run.kind.what, verb).kwszPtr());
@@ -64,6 +65,10 @@ KyDbObjectId askForRecord(RecordRun& run, const wchar_t* verb, KyString& name) {
         run.context.fail(L"Cannot find %ls \"%ls\".", run.kind.what, typed.kwszPtr());
     }
     name = KyRefNamedItem::nameOf(run.container, id);
+    if (name.find(L'*') == 0) {
+        run.context.fail(L"Cannot %ls %ls \"%ls\": it is the drawing's own.", verb, run.kind.what,
+                         name.kwszPtr());
+    }
     KyRefReadAccess<KyDbSymbolTableRecord> record(id);
     if (record && record->isDependent()) {
         run.context.fail(L"The %ls \"%ls\" belongs to an external reference.", run.kind.what,

@@ -22,14 +22,14 @@
 //
 // An unknown option or kind, an invalid name (empty, too long, with one of
 // < > / " : ; ? , = ` | or "*" after the first character), a new name that
-// is taken, a name that names nothing, a record of an external reference, and
-// what the drawing refuses to rename or erase are each an error line, and
-// nothing changes. The drawing refuses layer "0", the standard linetypes, the
-// "Standard" styles, the standard materials and visual styles and the model
-// layout, and it can't erase what is current (the current layer, linetype,
-// text style, dimension style, table style ...). The host refuses besides to
-// erase the current UCS, to rename or erase the current visual style, to
-// erase the layout of the paper space, the only one it shows, and to erase
+// is taken, a name that names nothing, a record of an external reference, a
+// record of the drawing's own (its name begins with "*": the active viewport
+// configuration "*Active"), and what the drawing refuses to rename or erase
+// are each an error line, and nothing changes. The drawing refuses layer "0", the standard
+// linetypes, the "Standard" styles, the standard materials and visual styles and the model layout,
+// and it can't erase what is current (the current layer, linetype, text style, dimension style,
+// table style ...). The host refuses besides to erase the current UCS, to rename or erase the
+// current visual style, to erase the layout of the paper space, the only one it shows, and to erase
 // what something of the drawing refers to (a layer with entities on it, a
 // linetype of a layer, the text style of a dimension style ...), so that a
 // saved drawing never names what it lacks.

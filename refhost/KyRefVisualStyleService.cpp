@@ -43,7 +43,11 @@ Kyro::ErrorStatus KyRefVisualStyleService::setCurrent(const KyDbObjectId& id, in
     if (!style) {
         return Kyro::eInvalidInput;
     }
-    m_current = style->name();
+    // Another style redraws what the viewport shows, as a regeneration.
+    if (m_current.compare(style->name()) != 0) {
+        m_current = style->name();
+        m_host.regenerateAll();
+    }
     return Kyro::eOk;
 }
 

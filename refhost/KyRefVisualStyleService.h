@@ -1,8 +1,9 @@
 // KyRefVisualStyleService: the visual style of the current viewport, kept by
 // name so that it follows the current drawing, and the styles a user is
 // offered: the visual styles of the drawing's dictionary that are not for
-// internal use, in dictionary order. The view resolution is the variable
-// VIEWRES.
+// internal use, in dictionary order. Another style made current regenerates
+// the drawing (KyRefHost::regenerateAll), as a real view is drawn anew. The
+// view resolution is the variable VIEWRES, whose change regenerates too.
 #pragma once
 
 #include "base/KyString.h"

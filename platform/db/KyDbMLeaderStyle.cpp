@@ -1,6 +1,7 @@
 #include "db/KyDbMLeaderStyle.h"
 
 #include "db/KyDbClassSupport.h"
+#include "db/KyDbDatabase.h"
 #include "db/KyDbRecordReference.h"
 #include "db/KyDbStandardContent.h"
 #include "db/KyDbStateFiler.h"
@@ -58,6 +59,14 @@ Kyro::ErrorStatus KyDbMLeaderStyle::setTextStyleId(KyDbObjectId value) {
         }
     }
     return setMember(m_textStyle, value);
+}
+
+void KyDbMLeaderStyle::subAppended(KyDbDatabase* database) {
+    KyDbObject::subAppended(database);
+    if (m_textStyle.isNull()) {
+        m_textStyle = KyDbRecordReference::recordNamed(database, database->textStyleTableId(),
+                                                       KyDbStandardContent::kStandard);
+    }
 }
 
 void KyDbMLeaderStyle::subSaveState(KyDbStateFiler& filer) const {

@@ -1,6 +1,7 @@
 // KyDbMLeaderStyle: a multileader style: its name and the text
 // style of its text. The style "Standard" of a drawing can't be renamed or
-// erased.
+// erased. One added to a drawing without a text style takes the drawing's
+// "Standard" text style.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -19,6 +20,7 @@ public:
 
 protected:
     Kyro::ErrorStatus subErase(bool erasing) override;
+    void subAppended(KyDbDatabase* database) override;
     void subSaveState(KyDbStateFiler& filer) const override;
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
 

@@ -63,11 +63,15 @@ TEST_F(LayerStates, TheFirstStateSavedResetsAnEmptyListAndHiddenStatesAreLeftOut
     type(L"-LAYER\nSTate\nSave\nSecond\n\n");
     pass();
     EXPECT_EQ(spy.take(), (Lines{"itemsChanged added=[Second] removed=[]"}));
+    // A state saved under the hidden one's name is a new state, and listed.
+    type(L"-LAYER\nSTate\nSave\nSecret\n\n");
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"itemsChanged added=[Secret] removed=[]"}));
     // An erased state rebuilds the list.
     type(L"-LAYER\nSTate\nDelete\nFirst\n\n");
     pass();
     EXPECT_EQ(spy.take(), (Lines{"collectionReset", "currentItemChanged null"}));
-    EXPECT_EQ(names(states), Lines{"Second"});
+    EXPECT_EQ(names(states), (Lines{"Secret", "Second"})) << "in the order of the dictionary";
     checker.expectInStep();
 }
 

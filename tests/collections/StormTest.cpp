@@ -7,18 +7,17 @@
 // drawing in front holds.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <memory>
-#include <random>
 
 #include "KyRefDocument.h"
 #include "KyRefManualClock.h"
 #include "collections/CollectionFixture.h"
-#include "collections/KyDiImpCollectionBase.h"
 #include "kydi/KyDiFunctions.h"
-#include "manager/KnownCollectionRows.h"
+#include "support/FreshFill.h"
+#include "support/StormDice.h"
 
 namespace {
 
@@ -45,26 +44,10 @@ const StormCollection kCollections[] = {
 
 class Storm : public kytest::CollectionFixture {
 protected:
-    std::mt19937 random{20261124};
+    kytest::StormDice dice{20261124};
 
-    int pick(int count) { return std::uniform_int_distribution<int>(0, count - 1)(random); }
+    int pick(int count) { return dice.pick(count); }
     std::wstring name() { return L"S" + std::to_wstring(pick(8)); }
-
-    // What a fresh collection of the same row fills from the drawing in front.
-    static std::vector<std::string> freshNames(const wchar_t* collectionName) {
-        for (const KnownCollectionRow& row : KnownCollectionRows::staticRows()) {
-            if (std::wstring(row.name) != collectionName) {
-                continue;
-            }
-            KyDiObservableCollection fresh(row.newCollection(row.name, nullptr, row.getTableId));
-            static_cast<KyDiImpCollectionBase*>(fresh.imp())
-                ->bindToDocument(KyDiManager::getHost()->documentManager()->currentDocument());
-            std::vector<std::string> result = names(&fresh);
-            fresh.destroy();
-            return result;
-        }
-        return {};
-    }
 
     void step(const fs::path& batchFile) {
         const StormCollection& target = kCollections[pick(std::size(kCollections))];
@@ -148,11 +131,8 @@ TEST_F(Storm, EveryCollectionFollowsThousandsOfRandomChangesAndEndsAsAFreshFill)
     pass();
     for (size_t i = 0; i < std::size(kCollections); ++i) {
         const wchar_t* name = kCollections[i].name;
-        std::vector<std::string> held = names(known(name));
-        std::vector<std::string> fresh = freshNames(name);
-        std::sort(held.begin(), held.end());
-        std::sort(fresh.begin(), fresh.end());
-        EXPECT_EQ(held, fresh) << KyString(name).utf8();
+        EXPECT_EQ(kytest::heldItems(known(name)), kytest::freshItems(name))
+            << KyString(name).utf8();
         checkers[i]->expectInStep();
         notifications += checkers[i]->notifications();
     }

@@ -1,6 +1,7 @@
 // The "VIEWPORT" context: its properties as the host's view services give
 // them, what it reports (the unit variables by name, the viewport object and
-// the invalidation by mask, a document switch without either) and when.
+// the invalidation by mask, as after another visual style or resolution, a
+// document switch without either) and when.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -172,6 +173,20 @@ TEST_F(ViewportContext, ReportsUnitVariablesByNameTheViewportObjectByMaskAndNoth
     pass();
     EXPECT_EQ(spy.take(), (Lines{"ViewResolution 3"}));
     EXPECT_EQ(read(L"ViewResolution"), "500 (0)");
+}
+
+TEST_F(ViewportContext, AnotherVisualStyleOrResolutionRegeneratesWhichItReportsWithoutNames) {
+    pass();
+    ContextSpy spy(context);
+    EXPECT_EQ(read(L"IsVS2dType"), "true (0)");
+    type(L"VSCURRENT\nRealistic\n");
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"- 1"})) << "whatever it shows may have changed";
+    EXPECT_EQ(read(L"IsVS2dType"), "false (0)");
+    type(L"VIEWRES\n2000\n");
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"- 1"}));
+    EXPECT_EQ(read(L"ViewResolution"), "2000 (0)");
 }
 
 TEST_F(ViewportContext, ViewAndLensReachItThroughTheViewportObjectAndItFollowsTheViewportShown) {

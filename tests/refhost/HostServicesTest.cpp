@@ -95,10 +95,14 @@ TEST_F(HostServicesTest, TheVisualStylesOfferedAreTheDrawingsOwnForUsers) {
     dictionary->getAt(L"Basic", internal);
     EXPECT_EQ(styles.styleKind(internal), KyDiVisualStyleService::kUnlistedStyle);
 
+    spy.take();
     ASSERT_EQ(styles.setCurrent(ids[1], 0), Kyro::eOk);
     EXPECT_EQ(styles.currentName(), L"Conceptual");
     EXPECT_FALSE(styles.isTwoDimensional());
+    EXPECT_EQ(spy.take(), Lines{"invalidateAll"}) << "another style is drawn anew";
+    ASSERT_EQ(styles.setCurrent(ids[1], 0), Kyro::eOk);
     EXPECT_EQ(styles.setCurrent(db()->layerTableId(), 0), Kyro::eInvalidInput);
+    EXPECT_EQ(spy.take(), Lines{}) << "the same style, and none";
 }
 
 Lines visualStyleNames(const KyArray<KyDbObjectId>& ids) {
@@ -110,14 +114,20 @@ Lines visualStyleNames(const KyArray<KyDbObjectId>& ids) {
     return names;
 }
 
-TEST_F(HostServicesTest, TheViewResolutionIsAVariable) {
+TEST_F(HostServicesTest, TheViewResolutionIsAVariableWhoseChangeRegenerates) {
     KyRefVisualStyleService& styles = *host->visualStyleService();
     EXPECT_EQ(styles.getViewResolution(), 1000);
     EXPECT_EQ(styles.setViewResolution(500), Kyro::eOk);
     EXPECT_EQ(styles.setViewResolution(0), Kyro::eInvalidInput);
     EXPECT_EQ(styles.getViewResolution(), 500);
-    EXPECT_EQ(spy.take(), (Lines{"sysVarWillChange VIEWRES", "sysVarChanged VIEWRES true",
-                                 "sysVarWillChange VIEWRES", "sysVarChanged VIEWRES false"}));
+    EXPECT_EQ(spy.take(),
+              (Lines{"sysVarWillChange VIEWRES", "sysVarChanged VIEWRES true", "invalidateAll",
+                     "sysVarWillChange VIEWRES", "sysVarChanged VIEWRES false"}));
+    // Typed, it regenerates once the command has told its changes.
+    run(L"VIEWRES\n2000\n");
+    EXPECT_EQ(spy.take(), (Lines{"commandWillStart VIEWRES", "sysVarChanged VIEWRES true",
+                                 "invalidateAll", "commandEnded VIEWRES", "refreshNeeded false"}));
+    EXPECT_EQ(styles.getViewResolution(), 2000);
 }
 
 TEST_F(HostServicesTest, TheScalesOfferedAreTheDrawingsScaleList) {

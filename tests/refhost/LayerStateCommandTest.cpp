@@ -1,12 +1,13 @@
-// -LAYER STate: saving, restoring and deleting layer states by name, unknown
-// names (an error line, nothing changed), the layer service's restore flags,
-// the viewport the host shows, undo of a restore, the second language, and
-// the states a save writes to the file.
+// -LAYER STate: saving (over a hidden state too), restoring and deleting
+// layer states by name, unknown names (an error line, nothing changed), the
+// layer service's restore flags, the viewport the host shows, undo of a
+// restore, the second language, and the states a save writes to the file.
 #include <fstream>
 
 #include "KyRefDocument.h"
 #include "LayerTestSupport.h"
 #include "base/KyRxResourceInstance.h"
+#include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbLayerStateManager.h"
 #include "db/KyDbObjectPointer.h"
@@ -57,6 +58,32 @@ TEST_F(LayerStateCommandTest, SaveRestoreAndDeleteAStateByName) {
     runToEnd(L"-LAYER\nST\nD\n\"Plan\"\n\n");
     EXPECT_FALSE(states().hasLayerState(L"Plan"));
     EXPECT_EQ(takeLog()[4], "Enter name of the layer state to delete: \"Plan\"");
+}
+
+TEST_F(LayerStateCommandTest, ASaveUnderTheNameOfAHiddenStateReplacesItAndUndoBringsItBack) {
+    {
+        const KyAxDocLock lock(db());
+        ASSERT_EQ(states().saveLayerState(L"Plan", KyDbLayerStateManager::kHidden, KyDbObjectId()),
+                  Kyro::eOk);
+    }
+    const KyDbObjectId hidden = states().layerStateId(L"Plan");
+    runToEnd(L"-LAYER\nSTate\nSave\nPlan\n\n");
+    const KyDbObjectId saved = states().layerStateId(L"Plan");
+    EXPECT_NE(saved, hidden) << "a new state";
+    EXPECT_TRUE(hidden.isErased());
+    int mask = -1;
+    ASSERT_EQ(states().getLayerStateMask(L"Plan", mask), Kyro::eOk);
+    EXPECT_EQ(mask, 0);
+
+    run(L"U\n");
+    EXPECT_EQ(states().layerStateId(L"Plan"), hidden);
+    ASSERT_EQ(states().getLayerStateMask(L"Plan", mask), Kyro::eOk);
+    EXPECT_LT(mask, 0);
+    run(L"REDO\n");
+    EXPECT_EQ(states().layerStateId(L"Plan"), saved);
+    // A shown state saved again stays the same state.
+    runToEnd(L"-LAYER\nSTate\nSave\nPlan\n\n");
+    EXPECT_EQ(states().layerStateId(L"Plan"), saved);
 }
 
 TEST_F(LayerStateCommandTest, AnUnknownNameIsAnErrorLineAndChangesNothing) {

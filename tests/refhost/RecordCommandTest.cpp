@@ -22,6 +22,7 @@
 #include "db/KyDbPlotSettings.h"
 #include "db/KyDbTableStyle.h"
 #include "db/KyDbTextStyleTableRecord.h"
+#include "db/KyDbViewportTableRecord.h"
 #include "db/KyDbVisualStyle.h"
 
 namespace refhost {
@@ -153,6 +154,25 @@ TEST_F(RecordCommandTest, EveryKindIsMadeRenamedAndErasedInItsTableOrDictionary)
     }
 }
 
+TEST_F(RecordCommandTest, ANewRecordOfEveryKindIsSavedAndReadBack) {
+    for (const KindCase& kind : kKinds) {
+        runRecord((L"RECORD\n_New\n" + std::wstring(kind.word) + L"\nAlpha\n").c_str());
+    }
+    const fs::path file =
+        fs::temp_directory_path() / ("kydi-new-records-" + std::to_string(getpid()) + ".kyd");
+    KyString error;
+    ASSERT_TRUE(host->documents().saveDocument(host->documents().current(),
+                                               KyString::fromUtf8(file.string()), error))
+        << error.utf8();
+    KyRefDocument* reopened =
+        host->documents().openDocument(KyString::fromUtf8(file.string()), error);
+    fs::remove(file);
+    ASSERT_NE(reopened, nullptr) << error.utf8();
+    for (const KindCase& kind : kKinds) {
+        EXPECT_FALSE(find(kind.container, L"Alpha").isNull()) << utf8(kind.word);
+    }
+}
+
 TEST_F(RecordCommandTest, ALayoutComesWithABlockOfItsOwnWhichGoesWithIt) {
     runRecord(L"RECORD\n_New\nLAYOUT\nSheet\n");
     const KyDbObjectId sheet = find(&KyDbDatabase::layoutDictionaryId, L"Sheet");
@@ -186,6 +206,8 @@ TEST_F(RecordCommandTest, BadInputAndWhatTheDrawingRefusesAreErrorLinesThatChang
     DrawingContent content(db());
     const KyDbObjectId mono =
         content.addRecord<KyDbTextStyleTableRecord>(db()->textStyleTableId(), L"Mono");
+    const KyDbObjectId spare =
+        content.addRecord<KyDbViewportTableRecord>(db()->viewportTableId(), L"*Spare");
     {
         KyAxDocLock lock(db());
         db()->undoController()->setRecording(false);
@@ -204,6 +226,10 @@ TEST_F(RecordCommandTest, BadInputAndWhatTheDrawingRefusesAreErrorLinesThatChang
     expectRefused(L"RECORD\n_New\nMATERIAL\nX|Y\n", "Invalid material name \"X|Y\".");
     expectRefused(L"RECORD\n_New\nVIEWPORT\n*Active\n",
                   "Invalid viewport configuration name \"*Active\".");
+    expectRefused(L"RECORD\n_Rename\nVIEWPORT\n*spare\n",
+                  "Cannot rename viewport configuration \"*Spare\": it is the drawing's own.");
+    expectRefused(L"RECORD\n_Erase\nVIEWPORT\n*Spare\n",
+                  "Cannot erase viewport configuration \"*Spare\": it is the drawing's own.");
     expectRefused(L"RECORD\n_Rename\nLINETYPE\nDashed\n", "Cannot find linetype \"Dashed\".");
     expectRefused(L"RECORD\n_Rename\nLAYER\nWalls\nDoors\n",
                   "A layer named \"Doors\" already exists.");
@@ -235,6 +261,7 @@ TEST_F(RecordCommandTest, BadInputAndWhatTheDrawingRefusesAreErrorLinesThatChang
 
     EXPECT_EQ(db()->undoController()->undoCount(), undoCount) << "nothing was recorded";
     EXPECT_FALSE(walls.isErased());
+    EXPECT_FALSE(spare.isErased());
     EXPECT_EQ(getString(L"CLAYER"), "Walls");
 }
 

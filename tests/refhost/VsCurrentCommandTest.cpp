@@ -39,8 +39,9 @@ TEST_F(VsCurrentCommandTest, AStandardWordMakesTheStyleCurrentAfterTwoCancels) {
     EXPECT_EQ(id, style(L"Hidden"));
     EXPECT_EQ(takeLog(), (Lines{"Command: *Cancel*", "Command: *Cancel*", "Command: _.VSCURRENT",
                                 kOptionPrompt + "_Hidden"}));
-    EXPECT_EQ(spy.take(), (Lines{"commandWillStart VSCURRENT", "commandEnded VSCURRENT",
-                                 "refreshNeeded false"}));
+    EXPECT_EQ(spy.take(), (Lines{"commandWillStart VSCURRENT", "invalidateAll",
+                                 "commandEnded VSCURRENT", "refreshNeeded false"}))
+        << "the view is drawn anew in the style";
 }
 
 TEST_F(VsCurrentCommandTest, NamesWithBlanksAreSentAsOneWordAndWholeWordsWinOverAbbreviations) {

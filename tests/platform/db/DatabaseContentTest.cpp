@@ -1,6 +1,7 @@
-// What a new drawing holds, the header's current items with the checks of
-// their setters, the generic header store, the empty database a reader fills,
-// and the database classes known by name.
+// What a new drawing holds, the defaults a style takes when it is added, the
+// header's current items with the checks of their setters, the generic header
+// store, the empty database a reader fills, and the database classes known by
+// name.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -23,6 +24,7 @@
 #include "db/KyDbStateFiler.h"
 #include "db/KyDbSymbolTableIterator.h"
 #include "db/KyDbTableStyle.h"
+#include "db/KyDbTextStyleTableRecord.h"
 #include "db/KyDbVisualStyle.h"
 
 namespace dbtest {
@@ -134,6 +136,45 @@ TEST_F(NewDrawingTest, TheNamedObjectsDictionaryHoldsTheStandardEntries) {
     EXPECT_EQ(table->cellStyles().length(), 3);
     KyDbObjectPointer<KyDbMLeaderStyle> leader(db->mleaderstyle(), KyDb::kForRead);
     EXPECT_EQ(labelOf(leader->textStyleId()), "Standard");
+}
+
+TEST_F(NewDrawingTest, StylesAddedWithoutATextStyleTakeTheStandardOneAndOthersKeepTheirs) {
+    KyDbObjectId mono;
+    {
+        KyDbObjectPointer<KyDbSymbolTable> styles(db->textStyleTableId(), KyDb::kForWrite);
+        auto* style = new KyDbTextStyleTableRecord();
+        style->setName(L"Mono");
+        ASSERT_EQ(styles->add(mono, style), Kyro::eOk);
+        style->close();
+    }
+    KyDbObjectId arch;
+    {
+        KyDbObjectPointer<KyDbSymbolTable> dimStyles(db->dimStyleTableId(), KyDb::kForWrite);
+        auto* style = new KyDbDimStyleTableRecord();
+        style->setName(L"Arch");
+        ASSERT_EQ(dimStyles->add(arch, style), Kyro::eOk);
+        style->close();
+    }
+    KyDbObjectId tag;
+    KyDbObjectId note;
+    {
+        KyDbObjectPointer<KyDbDictionary> leaders(db->mleaderStyleDictionaryId(), KyDb::kForWrite);
+        auto* style = new KyDbMLeaderStyle();
+        style->setName(L"Tag");
+        ASSERT_EQ(leaders->setAt(L"Tag", style, tag), Kyro::eOk);
+        style->close();
+        style = new KyDbMLeaderStyle();
+        style->setName(L"Note");
+        ASSERT_EQ(style->setTextStyleId(mono), Kyro::eOk);
+        ASSERT_EQ(leaders->setAt(L"Note", style, note), Kyro::eOk);
+        style->close();
+    }
+    KyDbObjectPointer<KyDbDimStyleTableRecord> dimStyle(arch, KyDb::kForRead);
+    EXPECT_EQ(labelOf(dimStyle->dimtxsty()), "Standard");
+    KyDbObjectPointer<KyDbMLeaderStyle> tagStyle(tag, KyDb::kForRead);
+    EXPECT_EQ(labelOf(tagStyle->textStyleId()), "Standard");
+    KyDbObjectPointer<KyDbMLeaderStyle> noteStyle(note, KyDb::kForRead);
+    EXPECT_EQ(labelOf(noteStyle->textStyleId()), "Mono");
 }
 
 TEST_F(NewDrawingTest, TheHeaderNamesTheStandardItemsAsCurrent) {
