@@ -6,6 +6,7 @@
 #include <string>
 
 #include "KyRefCommandContext.h"
+#include "KyRefHost.h"
 
 namespace {
 
@@ -40,8 +41,15 @@ void KyRefBatchCommand::run(KyRefCommandContext& context) {
     if (path.isEmpty()) {
         return;
     }
+    KyString file;
+    if (!context.host().fileFolder().resolve(path, file)) {
+        context.fail(
+            L"Cannot read batch file \"%ls\": it lies outside the folder of the host's "
+            L"files.",
+            path.kwszPtr());
+    }
     std::wstring text;
-    if (!readBatch(path, text)) {
+    if (!readBatch(file, text)) {
         context.fail(L"Cannot read batch file \"%ls\".", path.kwszPtr());
     }
     if (!context.runAsBatch(std::move(text))) {

@@ -1,8 +1,8 @@
 // KyRefBatchCommand: BATCH. Runs the commands of a file in the current
 // document as one batch: its answer is the file's path (relative to the
-// host's working folder), the file holds command text as a user types it,
-// each line one answer (an empty line an empty answer). Once BATCH has
-// ended, the host raises documentBecameBusy for the document, runs the
+// host's working folder, or held to the host's file folder: KyRefFileFolder),
+// the file holds command text as a user types it, each line one answer (an empty line an empty
+// answer). Once BATCH has ended, the host raises documentBecameBusy for the document, runs the
 // file's commands one after the other, each a command of its own with its
 // undo step and its events, and raises documentBecameQuiet after the last.
 // A command of the batch that fails shows its error line, is taken back, and

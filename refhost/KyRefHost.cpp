@@ -19,6 +19,7 @@ std::unique_ptr<Service> makeIf(bool wanted, Args&... args) {
 KyRefHost::KyRefHost(const KyRefHostOptions& options)
     : m_sysVars(this),
       m_clock(options.manualClock ? std::make_unique<KyRefManualClock>() : nullptr),
+      m_fileFolder(options.fileFolder),
       m_documents(std::make_unique<KyRefDocumentManager>(*this)),
       m_editor(makeIf<KyRefEditor>(options.editor, *this)),
       m_viewport(makeIf<KyRefViewportService>(options.viewportService, *this)),

@@ -33,6 +33,7 @@
 #include "KyRefDocumentManager.h"
 #include "KyRefEditor.h"
 #include "KyRefExternalReferenceService.h"
+#include "KyRefFileFolder.h"
 #include "KyRefHostEvents.h"
 #include "KyRefHostOptions.h"
 #include "KyRefImageService.h"
@@ -94,6 +95,8 @@ public:
     KyRefCommandLine& commandLine() { return m_commandLine; }
     // The manual clock; null when the host runs on the real one.
     KyRefManualClock* clock() { return m_clock.get(); }
+    // Where the files that commands name are found.
+    const KyRefFileFolder& fileFolder() const { return m_fileFolder; }
 
     // The host is idle: it runs the queued command text.
     void idle();
@@ -143,6 +146,7 @@ private:
     KyRefCommandLine m_commandLine;
     KyRefSysVarStore m_sysVars;
     std::unique_ptr<KyRefManualClock> m_clock;
+    KyRefFileFolder m_fileFolder;
     std::unique_ptr<KyRefDocumentManager> m_documents;
     std::unique_ptr<KyRefEditor> m_editor;
     std::unique_ptr<KyRefViewportService> m_viewport;

@@ -3,6 +3,8 @@
 // host, as for an application without that feature.
 #pragma once
 
+#include <filesystem>
+
 struct KyRefHostOptions {
     bool editor = true;
     bool viewportService = true;
@@ -21,6 +23,9 @@ struct KyRefHostOptions {
     // A manual clock in place of the process's steady clock while the host
     // lives (tests and scripts).
     bool manualClock = false;
+    // The folder the commands that name files read from (KyRefFileFolder);
+    // empty for the process's working folder, with no limit.
+    std::filesystem::path fileFolder;
 
     // A host with the document manager alone: no editor, no service.
     static KyRefHostOptions withoutServices() {

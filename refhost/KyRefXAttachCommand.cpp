@@ -22,8 +22,8 @@ bool isSameFile(const KyString& a, const KyString& b) {
         return false;
     }
     std::error_code error;
-    return std::filesystem::equivalent(std::filesystem::path(a.kwszPtr()),
-                                       std::filesystem::path(b.kwszPtr()), error);
+    return std::filesystem::equivalent(std::filesystem::path(a.utf8()),
+                                       std::filesystem::path(b.utf8()), error);
 }
 
 void addReferenceBlock(KyRefCommandContext& context, const KyString& name, const KyString& path) {
@@ -46,7 +46,14 @@ void KyRefXAttachCommand::run(KyRefCommandContext& context) {
     if (path.isEmpty()) {
         return;
     }
-    const KyString name(std::filesystem::path(path.kwszPtr()).stem().wstring().c_str());
+    KyString file;
+    if (!context.host().fileFolder().resolve(path, file)) {
+        context.fail(L"Cannot read \"%ls\": it lies outside the folder of the host's files.",
+                     path.kwszPtr());
+    }
+    // Paths go to the file system as UTF-8 bytes: a wide text it can't
+    // convert (a typed character that is no valid code point) is no fault.
+    const KyString name = KyString::fromUtf8(std::filesystem::path(path.utf8()).stem().string());
     if (KyDbBlockTableRecord().setName(name) != Kyro::eOk) {
         context.fail(L"\"%ls\" is no valid name for a reference.", name.kwszPtr());
     }
@@ -58,7 +65,7 @@ void KyRefXAttachCommand::run(KyRefCommandContext& context) {
             context.fail(L"A block named \"%ls\" exists already.", name.kwszPtr());
         }
     }
-    if (isSameFile(path, context.document()->path())) {
+    if (isSameFile(file, context.document()->path())) {
         context.fail(L"A drawing can't be attached to itself.");
     }
     KyRefDrawingIo* io = context.host().documents().drawingIo();
@@ -66,7 +73,7 @@ void KyRefXAttachCommand::run(KyRefCommandContext& context) {
         context.fail(L"Cannot read drawing files.");
     }
     KyString error;
-    const std::unique_ptr<KyDbDatabase> reference = io->read(path, error);
+    const std::unique_ptr<KyDbDatabase> reference = io->read(file, error);
     if (reference == nullptr) {
         context.fail(L"%ls", error.kwszPtr());
     }

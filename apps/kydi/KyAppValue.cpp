@@ -42,8 +42,10 @@ bool parseRgb(const std::string& text, int rgb[3]) {
     return true;
 }
 
+// Blanks (all that the statement reader takes for blanks), quotes and
+// backslashes only read back inside quotes.
 bool needsQuotes(const std::string& text) {
-    return text.find_first_of(" \t\"\\") != std::string::npos;
+    return text.find_first_of(" \t\r\n\"\\") != std::string::npos;
 }
 
 }  // namespace

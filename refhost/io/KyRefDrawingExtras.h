@@ -37,6 +37,13 @@ public:
         std::uint64_t threeD = 0;
         // Members the reader does not model, as the file had them; null if none.
         std::unique_ptr<KyRefJson> unknown;
+        // Members that name a record or an entry in another case than the
+        // name has ("layer": "WALLS" for the layer "Walls"), as the file had
+        // them; null if none. The writer gives them back while they name the
+        // same.
+        std::unique_ptr<KyRefJson> spelled;
+
+        bool holdsAnything() const { return present != 0 || threeD != 0 || unknown || spelled; }
     };
 
     // The extras of `database`, null when it was not read from a file.
@@ -51,6 +58,8 @@ public:
     // ---- Objects
     const Form* form(KyDbHandle handle) const;
     void setForm(KyDbHandle handle, Form&& form);
+    // The form of `handle`, made empty when it has none.
+    Form& formOf(KyDbHandle handle) { return m_forms[handle.value()]; }
     // The type name of an entity whose kind the platform does not model.
     const std::string* entityType(KyDbHandle handle) const;
     void setEntityType(KyDbHandle handle, std::string type);

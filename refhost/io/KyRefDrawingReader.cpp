@@ -1,5 +1,6 @@
 #include "KyRefDrawingReader.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -19,6 +20,8 @@
 #include "KyRefWriteContext.h"
 #include "db/KyDbBlockTableRecord.h"
 #include "db/KyDbDatabase.h"
+#include "db/KyDbDictionary.h"
+#include "db/KyDbDictionaryIterator.h"
 #include "db/KyDbLayout.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbStandardContent.h"
@@ -96,6 +99,33 @@ std::uint64_t highestHandle(const KyRefJson& value) {
         }
     }
     return highest;
+}
+
+// How deep a drawing may nest arrays and objects: far deeper than any drawing
+// needs (a layer filter or a dictionary within another takes two levels),
+// and shallow enough that nothing that walks a document runs out of stack.
+constexpr std::size_t kMaxNesting = 128;
+
+// How deep `document` nests, counted without recursion up to one level past
+// `limit`.
+std::size_t nestingOf(const KyRefJson& document, std::size_t limit) {
+    std::size_t deepest = 0;
+    std::vector<std::pair<const KyRefJson*, std::size_t>> pending{{&document, 1}};
+    while (!pending.empty()) {
+        const auto [value, depth] = pending.back();
+        pending.pop_back();
+        if (!value->is_structured()) {
+            continue;
+        }
+        deepest = std::max(deepest, depth);
+        if (deepest > limit) {
+            break;
+        }
+        for (const KyRefJson& item : *value) {
+            pending.emplace_back(&item, depth + 1);
+        }
+    }
+    return deepest;
 }
 
 class Reading {
@@ -217,7 +247,7 @@ private:
                 row.read(m_context, node, *record);
                 const KyDbObjectId id =
                     m_context.addRecord(open.object(), std::move(record), node, row.what);
-                m_context.keepForm(id, node, *row.members);
+                m_context.keepForm(id, node, *row.members, {"handle"});
                 if (ids != nullptr) {
                     ids->push_back(id);
                 }
@@ -226,6 +256,9 @@ private:
         addStandard(row.standardPart);
     }
 
+    // A block and its layout name each other: the block's "layout" is the
+    // layout whose "block" is that block, and every layout of the file has a
+    // block that names it so.
     void readBlockLayouts() {
         const auto blocks = m_root.optional("blocks");
         if (!blocks) {
@@ -236,11 +269,58 @@ private:
             if (const auto layout = node.optional("layout")) {
                 const KyDbObjectId layoutId =
                     m_context.object(*layout, KyDbLayout::desc(), "a layout (LAYOUT object)");
+                const KyDbObjectId blockOfLayout = blockOf(layoutId);
+                if (blockOfLayout != m_blocks[i]) {
+                    layout->fail("expected the handle of the layout whose block this is, found " +
+                                 layout->value().dump() + ", the layout of " +
+                                 (blockOfLayout.isNull()
+                                      ? std::string("no block")
+                                      : "the block \"" + handleText(blockOfLayout) + "\""));
+                }
                 KyDbObjectPointer<KyDbBlockTableRecord> block(m_blocks[i], KyDb::kForWrite);
                 KyRefReadContext::check(block->setLayoutId(layoutId), *layout,
                                         "the handle of a layout");
             }
         }
+        KyDbObjectPointer<KyDbDictionary> layouts(m_db->layoutDictionaryId(), KyDb::kForRead);
+        if (layouts.openStatus() != Kyro::eOk) {
+            return;
+        }
+        const std::unique_ptr<KyDbDictionaryIterator> it(layouts->newIterator());
+        for (; !it->done(); it->next()) {
+            const KyDbObjectId layoutId = it->objectId();
+            const auto found = std::find(m_blocks.begin(), m_blocks.end(), blockOf(layoutId));
+            if (found == m_blocks.end()) {
+                continue;
+            }
+            const KyRefJsonNode block =
+                blocks->item(static_cast<std::size_t>(found - m_blocks.begin()));
+            KyDbObjectId named;
+            {
+                KyDbObjectPointer<KyDbBlockTableRecord> record(*found, KyDb::kForRead);
+                named = record->getLayoutId();
+            }
+            if (named.isNull()) {
+                KyRefJsonNode(block.value(), block, "layout")
+                    .fail("missing; expected the handle of its layout \"" + handleText(layoutId) +
+                          "\", which names this block as its own");
+            }
+            if (named != layoutId) {
+                block.required("layout", "a layout")
+                    .fail("expected the handle of its one layout, found " +
+                          block.value()["layout"].dump() + ", while the layout \"" +
+                          handleText(layoutId) + "\" also names this block as its own");
+            }
+        }
+    }
+
+    static KyDbObjectId blockOf(KyDbObjectId layoutId) {
+        KyDbObjectPointer<KyDbLayout> layout(layoutId, KyDb::kForRead);
+        return layout.openStatus() == Kyro::eOk ? layout->getBlockTableRecordId() : KyDbObjectId();
+    }
+
+    static std::string handleText(KyDbObjectId id) {
+        return kyrefUtf8(KyDbHandle(id.handle()).text());
     }
 
     void readEntities() {
@@ -268,6 +348,7 @@ private:
         }
         for (std::size_t i = 0; i < layers->size(); ++i) {
             KyRefTableRows::readViewportOverrides(m_context, layers->item(i), m_layers[i]);
+            m_context.keepSpellings(m_layers[i], layers->item(i));
         }
     }
 
@@ -311,7 +392,8 @@ std::string parseProblem(const std::exception& error) {
 }  // namespace
 
 std::unique_ptr<KyDbDatabase> KyRefDrawingReader::readFile(const wchar_t* path, KyString& error) {
-    std::ifstream in(std::filesystem::path(path != nullptr ? path : L""), std::ios::binary);
+    // The path goes to the file system as UTF-8 bytes, whatever the locale.
+    std::ifstream in(std::filesystem::path(kyrefUtf8(path)), std::ios::binary);
     if (!in) {
         error = KyString::formatted(L"The file \"%ls\" can't be opened.", path);
         return nullptr;
@@ -329,7 +411,8 @@ std::unique_ptr<KyDbDatabase> KyRefDrawingReader::readText(std::string_view text
     KyRefJson document;
     try {
         document = KyRefJson::parse(text);
-    } catch (const KyRefJson::parse_error& problem) {
+    } catch (const KyRefJson::exception& problem) {
+        // A syntax error, and also a number beyond the range of a double.
         error = kyrefWide("the file is not complete, valid JSON: " + parseProblem(problem));
         return nullptr;
     }
@@ -338,6 +421,13 @@ std::unique_ptr<KyDbDatabase> KyRefDrawingReader::readText(std::string_view text
 
 std::unique_ptr<KyDbDatabase> KyRefDrawingReader::readDocument(const KyRefJson& document,
                                                                KyString& error) {
+    if (nestingOf(document, kMaxNesting) > kMaxNesting) {
+        error = KyString::formatted(
+            L"the drawing nests arrays and objects more than %d levels "
+            L"deep; expected at most %d",
+            static_cast<int>(kMaxNesting), static_cast<int>(kMaxNesting));
+        return nullptr;
+    }
     try {
         auto database = std::make_unique<KyDbDatabase>(false);
         KyDbUndoController* undo = database->undoController();

@@ -165,9 +165,10 @@ bool KyRefDrawingWriter::writeFile(KyDbDatabase* database, const wchar_t* path, 
         return false;
     }
     const std::string text = toText(database);
-    const std::filesystem::path target(path);
+    // The path goes to the file system as UTF-8 bytes, whatever the locale.
+    const std::filesystem::path target(kyrefUtf8(path));
     std::filesystem::path temporary = target;
-    temporary += L".saving";
+    temporary += ".saving";
     {
         std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
         out.write(text.data(), static_cast<std::streamsize>(text.size()));

@@ -490,7 +490,13 @@ KyDbEntity* readViewport(KyRefReadContext& context, const KyRefJsonNode& node) {
         frozen->expectArray();
         KyArray<KyDbObjectId> layers;
         for (std::size_t i = 0; i < frozen->size(); ++i) {
-            layers.append(context.record(db->layerTableId(), frozen->item(i), "layer"));
+            const KyRefJsonNode name = frozen->item(i);
+            const KyDbObjectId layer = context.record(db->layerTableId(), name, "layer");
+            if (layers.contains(layer)) {
+                name.fail("the layer \"" + name.asString() +
+                          "\" is frozen here already; expected each layer once (in any case)");
+            }
+            layers.append(layer);
         }
         Check::check(viewport->freezeLayersInViewport(layers), *frozen, "layer names");
     }
@@ -711,13 +717,13 @@ void KyRefEntityRows::read(KyRefReadContext& context, const KyRefJsonNode& node,
     KyRefDrawingExtras::Form form;
     if (modelled) {
         entity.reset(row->read(context, node));
-        form = row->members->formOf(node.value());
+        form = row->members->formOf(node.value(), {"type", "handle"});
     } else {
         if (row != nullptr) {
             row->read(context, node);
         }
         // Kept whole: what is not common to every entity is its data.
-        form = kCommon.formOf(node.value());
+        form = kCommon.formOf(node.value(), {"type", "handle"});
         auto unknown = std::make_unique<KyDbUnknownEntity>();
         unknown->setTypeName(kyrefWide(type));
         unknown->setData(form.unknown ? kyrefWide(form.unknown->dump()) : KyString(L"{}"));
@@ -738,7 +744,8 @@ void KyRefEntityRows::read(KyRefReadContext& context, const KyRefJsonNode& node,
     if (modelled && row->fill != nullptr) {
         row->fill(context, node, *appended);
     }
-    if (form.present != 0 || form.threeD != 0 || form.unknown) {
+    context.keepSpellings(form, node);
+    if (form.holdsAnything()) {
         context.extras().setForm(handle, std::move(form));
     }
 }

@@ -46,6 +46,35 @@ bool sameValue(const KyRefJson& a, const KyRefJson& b, bool point) {
     return a == b;
 }
 
+// Two JSON values equal but for the case of their texts: a member that
+// names records as the writer writes it and as the file spelled it.
+bool sameButCase(const KyRefJson& a, const KyRefJson& b) {
+    if (a.is_string() && b.is_string()) {
+        return sameTextNoCase(a.get_ref<const std::string&>(), b.get_ref<const std::string&>());
+    }
+    if (a.type() != b.type() || a.size() != b.size()) {
+        return false;
+    }
+    if (a.is_array()) {
+        for (std::size_t i = 0; i < a.size(); ++i) {
+            if (!sameButCase(a[i], b[i])) {
+                return false;
+            }
+        }
+        return true;
+    }
+    if (a.is_object()) {
+        for (auto it = a.begin(); it != a.end(); ++it) {
+            const auto other = b.find(it.key());
+            if (other == b.end() || !sameButCase(*it, *other)) {
+                return false;
+            }
+        }
+        return true;
+    }
+    return a == b;
+}
+
 // True when `name` is one of the blank-separated words of `names`.
 bool isListed(const char* names, std::string_view name) {
     std::string_view rest(names);
@@ -151,7 +180,7 @@ KyRefDrawingExtras::Form KyRefMemberList::formOf(
             }
             continue;
         }
-        bool known = name == "type" || name == "handle";
+        bool known = false;
         for (const std::string_view also : alsoKnown) {
             known = known || name == also;
         }
@@ -187,6 +216,14 @@ void KyRefMemberList::shape(KyRefJson& out, const KyRefDrawingExtras::Form* form
     }
     if (form != nullptr && form->unknown) {
         mergeUnknown(out, *form->unknown);
+    }
+    if (form != nullptr && form->spelled) {
+        for (auto it = form->spelled->begin(); it != form->spelled->end(); ++it) {
+            const auto found = out.find(it.key());
+            if (found != out.end() && sameButCase(*found, *it)) {
+                *found = *it;
+            }
+        }
     }
 }
 

@@ -36,8 +36,10 @@ public:
     int indexOf(std::string_view name) const;
 
     // The form of `object` as a file gave it: listed members given, points
-    // given with three coordinates, unknown members (any member not listed,
-    // other than "type", "handle" and `alsoKnown`).
+    // given with three coordinates, unknown members (any member neither
+    // listed nor in `alsoKnown`: "handle" for what has one, and "type" for
+    // entities and objects; a table record keeps a "type" of its own, a
+    // layer state a "handle", as unknown members).
     KyRefDrawingExtras::Form formOf(const KyRefJson& object,
                                     std::initializer_list<std::string_view> alsoKnown = {}) const;
     // Gives `out`, as the writer made it with every member, the shape of

@@ -40,7 +40,9 @@ using Std = KyDbStandardContent;
 // ---- Members of each type
 
 const KyRefMemberList kDictionaryMembers{{"entries"}};
-const KyRefMemberList kDictionaryWithDefaultMembers{{"entries"}, {"default"}};
+// A file that leaves the default out gets the standard one, and is written
+// back without it while the default stays that one.
+const KyRefMemberList kDictionaryWithDefaultMembers{{"entries"}, {"default", "\"Normal\""}};
 const KyRefMemberList kLayoutMembers{
     {"name"}, {"tabOrder", "0"}, {"block"}, {"plotSettings", "{}"}};
 const KyRefMemberList kPlotSettingsMembers{{"name"}, {"settings", "{}"}};
@@ -322,9 +324,7 @@ void writeScale(KyRefWriteContext&, const KyDbObject& object, KyRefJson& out) {
 }
 
 KyDbObject* readPlaceHolder(KyRefReadContext&, const KyRefJsonNode& node, const KyRefEntryPlace&) {
-    if (const auto name = node.optional("name")) {
-        name->asString();
-    }
+    node.required("name", "the name of the plot style").asString();
     return new KyDbPlaceHolder();
 }
 
@@ -545,7 +545,11 @@ void readEntries(KyRefReadContext& context, const KyRefJsonNode& node, KyDbObjec
         const KyDbObjectId entryId =
             context.addEntry(dictionary.object(), key, std::move(object), entry);
         if (row != nullptr) {
-            context.keepForm(entryId, entry, *row->members);
+            // The members of the object as the writer will list them: a
+            // dictionary may have become one with a default.
+            const KyRefObjectRow* written = ofClass(entryId.objectClass());
+            context.keepForm(entryId, entry, *(written != nullptr ? written : row)->members,
+                             {"type", "handle"});
             if (row->fill != nullptr) {
                 row->fill(context, entry, entryId);
             }
@@ -582,7 +586,7 @@ void KyRefObjectRows::readRoot(KyRefReadContext& context, const KyRefJsonNode& n
                     "\" is taken by another object; expected a handle of its own");
     }
     readEntries(context, node, root, true);
-    context.keepForm(root, node, kDictionaryMembers);
+    context.keepForm(root, node, kDictionaryMembers, {"type", "handle"});
 }
 
 KyRefJson KyRefObjectRows::write(KyRefWriteContext& context, KyDbObjectId id) {

@@ -30,39 +30,52 @@ std::string statusText(Kyro::ErrorStatus status) {
 KyRefReadContext::KyRefReadContext(KyDbDatabase* database, KyRefDrawingExtras& extras)
     : m_database(database), m_extras(extras) {}
 
-KyDbObjectId KyRefReadContext::lookUp(KyDbObjectId containerId, const std::string& name,
-                                      bool dictionary) {
+KyRefReadContext::Found KyRefReadContext::lookUp(KyDbObjectId containerId, const std::string& name,
+                                                 bool dictionary) {
     Names& names = m_names[containerId.stub()];
     const auto cached = names.find(name);
     if (cached != names.end()) {
         return cached->second;
     }
-    KyDbObjectId id;
+    Found found;
     const KyString wide = kyrefWide(name);
     if (wide.isEmpty() || containerId.isNull()) {
-        return id;
+        return found;
     }
+    // Names and keys are found in any case; the file may write them so.
+    KyString actual;
     if (dictionary) {
         KyDbObjectPointer<KyDbDictionary> container(containerId, KyDb::kForRead);
-        if (container.openStatus() == Kyro::eOk) {
-            container->getAt(wide, id);
+        if (container.openStatus() == Kyro::eOk && container->getAt(wide, found.id) == Kyro::eOk) {
+            container->nameAt(found.id, actual);
         }
     } else {
         KyDbObjectPointer<KyDbSymbolTable> container(containerId, KyDb::kForRead);
-        if (container.openStatus() == Kyro::eOk) {
-            container->getAt(wide, id);
+        if (container.openStatus() == Kyro::eOk && container->getAt(wide, found.id) == Kyro::eOk) {
+            KyDbObjectPointer<KyDbSymbolTableRecord> record(found.id, KyDb::kForRead);
+            if (record.openStatus() == Kyro::eOk) {
+                actual = record->name();
+            }
         }
     }
-    if (!id.isNull()) {
-        names.emplace(name, id);
+    if (!found.id.isNull()) {
+        found.exact = actual == wide;
+        names.emplace(name, found);
     }
-    return id;
+    return found;
+}
+
+KyDbObjectId KyRefReadContext::noted(const Found& found, const KyRefJsonNode& node) {
+    if (!found.id.isNull() && !found.exact) {
+        m_spelled.push_back(&node.value());
+    }
+    return found.id;
 }
 
 KyDbObjectId KyRefReadContext::record(KyDbObjectId tableId, const KyRefJsonNode& node,
                                       const char* what) {
     const std::string name = node.asString();
-    const KyDbObjectId id = lookUp(tableId, name, false);
+    const KyDbObjectId id = noted(lookUp(tableId, name, false), node);
     if (id.isNull()) {
         node.fail(std::string("expected the name of a ") + what + ", found \"" + name +
                   "\", which the drawing does not have");
@@ -73,7 +86,7 @@ KyDbObjectId KyRefReadContext::record(KyDbObjectId tableId, const KyRefJsonNode&
 KyDbObjectId KyRefReadContext::record(KyDbObjectId tableId, const wchar_t* name,
                                       const KyRefJsonNode& node, const char* member,
                                       const char* what) {
-    const KyDbObjectId id = lookUp(tableId, kyrefUtf8(name), false);
+    const KyDbObjectId id = lookUp(tableId, kyrefUtf8(name), false).id;
     if (id.isNull()) {
         KyRefJsonNode(node.value(), node, member)
             .fail(std::string("left out, which means the ") + what + " \"" + kyrefUtf8(name) +
@@ -85,7 +98,7 @@ KyDbObjectId KyRefReadContext::record(KyDbObjectId tableId, const wchar_t* name,
 KyDbObjectId KyRefReadContext::entry(KyDbObjectId dictionaryId, const KyRefJsonNode& node,
                                      const char* what) {
     const std::string key = node.asString();
-    const KyDbObjectId id = lookUp(dictionaryId, key, true);
+    const KyDbObjectId id = noted(lookUp(dictionaryId, key, true), node);
     if (id.isNull()) {
         node.fail(std::string("expected the name of a ") + what + ", found \"" + key +
                   "\", which the drawing does not have");
@@ -96,7 +109,7 @@ KyDbObjectId KyRefReadContext::entry(KyDbObjectId dictionaryId, const KyRefJsonN
 KyDbObjectId KyRefReadContext::entry(KyDbObjectId dictionaryId, const wchar_t* key,
                                      const KyRefJsonNode& node, const char* member,
                                      const char* what) {
-    const KyDbObjectId id = lookUp(dictionaryId, kyrefUtf8(key), true);
+    const KyDbObjectId id = lookUp(dictionaryId, kyrefUtf8(key), true).id;
     if (id.isNull()) {
         KyRefJsonNode(node.value(), node, member)
             .fail(std::string("left out, which means the ") + what + " \"" + kyrefUtf8(key) +
@@ -182,8 +195,52 @@ void KyRefReadContext::keepForm(KyDbObjectId id, const KyRefJsonNode& node,
         KyRefMemberList::mergeUnknown(*form.unknown, m_pending);
         m_pending = KyRefJson();
     }
-    if (form.present != 0 || form.threeD != 0 || form.unknown) {
+    keepSpellings(form, node);
+    if (form.holdsAnything()) {
         m_extras.setForm(KyDbHandle(id.handle()), std::move(form));
+    }
+}
+
+namespace {
+
+bool holds(const KyRefJson& value, const KyRefJson* part) {
+    if (&value == part) {
+        return true;
+    }
+    if (value.is_structured()) {
+        for (const KyRefJson& item : value) {
+            if (holds(item, part)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
+void KyRefReadContext::keepSpellings(KyRefDrawingExtras::Form& form, const KyRefJsonNode& node) {
+    if (m_spelled.empty()) {
+        return;
+    }
+    const KyRefJson& object = node.value();
+    for (auto it = object.begin(); object.is_object() && it != object.end(); ++it) {
+        for (const KyRefJson* spelled : m_spelled) {
+            if (holds(*it, spelled)) {
+                if (!form.spelled) {
+                    form.spelled = std::make_unique<KyRefJson>(KyRefJson::object());
+                }
+                (*form.spelled)[it.key()] = *it;
+                break;
+            }
+        }
+    }
+    m_spelled.clear();
+}
+
+void KyRefReadContext::keepSpellings(KyDbObjectId id, const KyRefJsonNode& node) {
+    if (!m_spelled.empty()) {
+        keepSpellings(m_extras.formOf(KyDbHandle(id.handle())), node);
     }
 }
 

@@ -61,6 +61,13 @@ public:
     // Keeps the form of the object at `node` for the writer.
     void keepForm(KyDbObjectId id, const KyRefJsonNode& node, const KyRefMemberList& members,
                   std::initializer_list<std::string_view> alsoKnown = {});
+    // Keeps in `form` the members of the object at `node` that name a
+    // record or an entry in another case than its name, as the file wrote
+    // them (the lookups since the last call tell which).
+    void keepSpellings(KyRefDrawingExtras::Form& form, const KyRefJsonNode& node);
+    // The same for the object `id`, whose form is kept already: for
+    // members read after the object (the viewport overrides of a layer).
+    void keepSpellings(KyDbObjectId id, const KyRefJsonNode& node);
     // Keeps `value` beside the object being read as its unknown member `name`
     // (a part of a listed member that the database can't hold); the next
     // keepForm takes it.
@@ -77,12 +84,23 @@ public:
     const std::vector<DeferredVariable>& deferredVariables() const { return m_deferred; }
 
 private:
-    using Names = std::unordered_map<std::string, KyDbObjectId>;
-    KyDbObjectId lookUp(KyDbObjectId containerId, const std::string& name, bool dictionary);
+    // What a name of the file found: the id, and whether the file wrote the
+    // name as the record or entry has it.
+    struct Found {
+        KyDbObjectId id;
+        bool exact = true;
+    };
+    using Names = std::unordered_map<std::string, Found>;
+    Found lookUp(KyDbObjectId containerId, const std::string& name, bool dictionary);
+    // Notes the name at `node` for keepSpellings when the file wrote it in
+    // another case.
+    KyDbObjectId noted(const Found& found, const KyRefJsonNode& node);
 
     KyDbDatabase* m_database;
     KyRefDrawingExtras& m_extras;
     std::unordered_map<const void*, Names> m_names;
     KyRefJson m_pending;
+    // The values of the names written in another case since keepSpellings.
+    std::vector<const KyRefJson*> m_spelled;
     std::vector<DeferredVariable> m_deferred;
 };

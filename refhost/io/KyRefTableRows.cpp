@@ -1,6 +1,8 @@
 #include "KyRefTableRows.h"
 
+#include <algorithm>
 #include <iterator>
+#include <vector>
 
 #include "KyRefMemberList.h"
 #include "KyRefReadContext.h"
@@ -452,7 +454,8 @@ void readBlock(KyRefReadContext&, const KyRefJsonNode& node, KyDbSymbolTableReco
         xref->expectObject();
         const KyRefJsonNode path = xref->required("path", "the path of the referenced drawing");
         KyRefReadContext::check(block.setPathName(path.asText()), path, "a path");
-        block.setIsFromOverlayReference(xref->boolean("overlay", false));
+        block.setIsFromOverlayReference(
+            xref->required("overlay", "true or false: whether it is an overlay").asBool());
     }
     if (const auto entities = node.optional("entities")) {
         entities->expectArray();
@@ -530,12 +533,30 @@ void KyRefTableRows::readViewportOverrides(KyRefReadContext& context, const KyRe
     }
     KyDbObjectPointer<KyDbLayerTableRecord> layer(layerId, KyDb::kForWrite);
     KyDbDatabase* db = context.database();
+    std::vector<KyDbObjectId> viewports;
     for (std::size_t i = 0; i < overrides->size(); ++i) {
         const KyRefJsonNode entry = overrides->item(i);
         entry.expectObject();
+        const KyRefJsonNode viewportNode = entry.required("viewport", "the handle of a viewport");
         const KyDbObjectId viewport =
-            context.object(entry.required("viewport", "the handle of a viewport"),
-                           KyDbViewport::desc(), "a viewport (VIEWPORT entity)");
+            context.object(viewportNode, KyDbViewport::desc(), "a viewport (VIEWPORT entity)");
+        // One entry for each viewport, and one that overrides something: the
+        // layer keeps one set of overrides for each viewport, and none makes
+        // no entry.
+        if (std::find(viewports.begin(), viewports.end(), viewport) != viewports.end()) {
+            viewportNode.fail("the viewport " + viewportNode.value().dump() +
+                              " has overrides of this layer already; expected each viewport "
+                              "once");
+        }
+        viewports.push_back(viewport);
+        const bool overridesSomething = entry.has("color") || entry.has("linetype") ||
+                                        entry.has("lineweight") || entry.has("transparency") ||
+                                        entry.has("plotStyle");
+        if (!overridesSomething) {
+            entry.fail(
+                "expected an override of color, linetype, lineweight, transparency or "
+                "plotStyle, found none");
+        }
         optionalMember(
             entry, "color", "a layer colour",
             [](const KyRefJsonNode& n) { return Forms::color(n, Forms::ColorUse::kLayer); },

@@ -180,9 +180,15 @@ KyRefJson KyRefValueForms::points(const KyArray<KyGePoint3d>& points) {
 KyDbHandle KyRefValueForms::handle(const KyRefJsonNode& node) {
     const KyRefJson& value = node.value();
     KyDbHandle handle;
-    if (!value.is_string() || !KyDbHandle::fromText(node.asText(), handle) || handle.isNull()) {
-        node.fail("expected a handle: hexadecimal text other than \"0\", found " +
-                  (value.is_string() ? value.dump() : std::string(KyRefJsonNode::describe(value))));
+    // One spelling for each handle, the one the writer gives back: no small
+    // letters, no leading zeros (and nothing after a NUL that the wide text
+    // would drop).
+    if (!value.is_string() || !KyDbHandle::fromText(node.asText(), handle) || handle.isNull() ||
+        kyrefUtf8(handle.text()) != value.get_ref<const std::string&>()) {
+        node.fail(
+            "expected a handle: hexadecimal text in capitals without leading zeros, other than "
+            "\"0\", found " +
+            (value.is_string() ? value.dump() : std::string(KyRefJsonNode::describe(value))));
     }
     return handle;
 }

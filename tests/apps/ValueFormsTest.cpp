@@ -105,6 +105,11 @@ TEST(ValueForms, TextsAreQuotedOnlyWhenTheyWouldReadAsSomethingElse) {
     EXPECT_EQ(KyAppValue::text("Hidden Lines").format(), "\"Hidden Lines\"");
     EXPECT_EQ(KyAppValue::text("say \"hi\"").format(), "\"say \\\"hi\\\"\"");
     EXPECT_EQ(KyAppValue::text("C:\\plans").format(), "\"C:\\\\plans\"");
+    // Every character the statement reader takes for a blank.
+    for (const std::string text : {"Lin\r", "a\tb", "\nx"}) {
+        EXPECT_EQ(KyAppValue::text(text).format(), KyAppValue::quote(text));
+        EXPECT_EQ(readWord(KyAppValue::text(text).format()), KyAppValue::text(text));
+    }
 }
 
 TEST(ValueForms, NumbersPrintInTheFewestDigits) {

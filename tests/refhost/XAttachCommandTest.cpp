@@ -130,6 +130,12 @@ TEST_F(XAttachCommandTest, UndoTakesTheReferenceAndItsLayersBack) {
     EXPECT_NE(state(L"site|Walls"), "missing");
 }
 
+TEST_F(XAttachCommandTest, AFileNamedBeyondAsciiIsAttachedInAnyLocale) {
+    attach(writeFile("Grundst\u00fcck.kyd", kSite).string());
+    EXPECT_NE(state(L"Grundst\u00fcck|Walls"), "missing");
+    EXPECT_EQ(takeLog().back(), "\"Grundst\u00fcck\" loaded: 2 layers.");
+}
+
 TEST_F(XAttachCommandTest, AFileThatCantBeReadIsAnErrorAndChangesNothing) {
     const std::string missing = (folder / "missing.kyd").string();
     attach(missing);

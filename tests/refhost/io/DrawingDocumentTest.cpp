@@ -59,6 +59,20 @@ TEST_F(DrawingDocuments, EveryHostOpensAndSavesWithTheRegisteredReader) {
     EXPECT_FALSE(std::filesystem::exists(m_folder / "copy.kyd.saving"));
 }
 
+TEST_F(DrawingDocuments, APathBeyondAsciiOpensAndSavesInAnyLocale) {
+    // Tests run in the "C" locale, where the library can't turn such a wide
+    // path into bytes: paths reach the file system as UTF-8.
+    const std::filesystem::path file = write("Grundri\u00df.kyd", smallDrawing().dump());
+    KyString error;
+    KyRefDocument* document =
+        m_host.documents().openDocument(KyString::fromUtf8(file.string()), error);
+    ASSERT_NE(document, nullptr) << error.utf8();
+    const std::filesystem::path copy = m_folder / "Kopie \u00c4\u00d6.kyd";
+    ASSERT_TRUE(m_host.documents().saveDocument(document, KyString::fromUtf8(copy.string()), error))
+        << error.utf8();
+    EXPECT_TRUE(unordered(KyRefJson::parse(readText(copy))) == unordered(smallDrawing()));
+}
+
 TEST_F(DrawingDocuments, AFileThatCantBeReadOpensNoDocumentAndSaysWhy) {
     KyRefJson broken = smallDrawing();
     broken["layers"][0]["frozen"] = "yes";

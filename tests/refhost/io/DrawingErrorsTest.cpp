@@ -30,6 +30,21 @@ TEST(DrawingErrors, AFileThatIsNoCompleteJsonOrNoDrawing) {
     EXPECT_EQ(corrupted.error.rfind("the file is not complete, valid JSON: ", 0), 0u)
         << corrupted.error;
 
+    const Reading tooLarge = read(std::string("{\"format\": \"kydrawing\", \"version\": 1e999}"));
+    EXPECT_EQ(tooLarge.db, nullptr);
+    EXPECT_EQ(tooLarge.error,
+              "the file is not complete, valid JSON: number overflow parsing '1e999'");
+
+    const std::string deep = std::string(129, '[') + std::string(129, ']');
+    const Reading nested = read("{\"format\": \"kydrawing\", \"version\": 1, \"x\": " + deep + "}");
+    EXPECT_EQ(nested.db, nullptr);
+    EXPECT_EQ(
+        nested.error,
+        "the drawing nests arrays and objects more than 128 levels deep; expected at most 128");
+    EXPECT_NE(
+        read("{\"format\": \"kydrawing\", \"version\": 1, \"x\": " + deep.substr(2, 254) + "}").db,
+        nullptr);
+
     EXPECT_EQ(errorOf(KyRefJson::array({1, 2})),
               "expected a drawing: a JSON object with \"format\": \"kydrawing\", found an array");
 
@@ -95,6 +110,83 @@ TEST(DrawingErrors, AMissingRequiredMember) {
     EXPECT_EQ(errorOf(document),
               "objects.entries.KYRO_LAYOUT.entries.Model.block: missing; expected the handle of "
               "the layout's block");
+    // Members the format gives no default.
+    document = smallDrawing();
+    document["blocks"][2]["xref"] = {{"path", "door.kyd"}};
+    EXPECT_EQ(errorOf(document),
+              "blocks[2].xref.overlay: missing; expected true or false: whether it is an overlay");
+    document = smallDrawing();
+    document["objects"]["entries"]["KYRO_PLOTSTYLENAME"] = {
+        {"type", "DICTIONARY"},
+        {"handle", "41"},
+        {"entries", {{"Normal", {{"type", "PLACEHOLDER"}, {"handle", "42"}}}}}};
+    EXPECT_EQ(errorOf(document),
+              "objects.entries.KYRO_PLOTSTYLENAME.entries.Normal.name: missing; expected the name "
+              "of the plot style");
+}
+
+TEST(DrawingErrors, AHandleHasOneSpelling) {
+    for (const char* handle : {"030", "3f", "3F ", "3F\\u0000", ""}) {
+        KyRefJson document = smallDrawing();
+        document["blocks"][0]["entities"][0]["handle"] =
+            KyRefJson::parse(std::string("\"") + handle + "\"");
+        EXPECT_EQ(errorOf(document),
+                  "blocks[0].entities[0].handle: expected a handle: hexadecimal text in capitals "
+                  "without leading zeros, other than \"0\", found " +
+                      document["blocks"][0]["entities"][0]["handle"].dump());
+    }
+}
+
+TEST(DrawingErrors, ABlockAndItsLayoutNameEachOther) {
+    KyRefJson document = smallDrawing();
+    document["blocks"][0].erase("layout");
+    EXPECT_EQ(errorOf(document),
+              "blocks[0].layout: missing; expected the handle of its layout \"2A\", which names "
+              "this block as its own");
+    document = smallDrawing();
+    document["blocks"][2]["layout"] = "2B";
+    EXPECT_EQ(errorOf(document),
+              "blocks[2].layout: expected the handle of the layout whose block this is, found "
+              "\"2B\", the layout of the block \"1B\"");
+    document = smallDrawing();
+    document["objects"]["entries"]["KYRO_LAYOUT"]["entries"]["Layout1"]["block"] = "1A";
+    EXPECT_EQ(errorOf(document),
+              "blocks[1].layout: expected the handle of the layout whose block this is, found "
+              "\"2B\", the layout of the block \"1A\"");
+    document["blocks"][1].erase("layout");
+    EXPECT_EQ(errorOf(document),
+              "blocks[0].layout: expected the handle of its one layout, found \"2A\", while the "
+              "layout \"2B\" also names this block as its own");
+}
+
+TEST(DrawingErrors, AListNamesEachItemOnceAndAnOverrideOverridesSomething) {
+    KyRefJson document = smallDrawing();
+    KyRefJson& paper = document["blocks"][1]["entities"];
+    for (const char* handle : {"40", "41"}) {
+        paper.push_back({{"type", "VIEWPORT"},
+                         {"handle", handle},
+                         {"center", {5, 5}},
+                         {"width", 10},
+                         {"height", 10},
+                         {"viewCenter", {0, 0}},
+                         {"viewHeight", 10}});
+    }
+    paper[1]["frozenLayers"] = {"Walls", "0", "WALLS"};
+    EXPECT_EQ(errorOf(document),
+              "blocks[1].entities[1].frozenLayers[2]: the layer \"WALLS\" is frozen here already; "
+              "expected each layer once (in any case)");
+    paper[1]["frozenLayers"] = {"Walls"};
+    KyRefJson& overrides = document["layers"][1]["viewportOverrides"];
+    overrides = {{{"viewport", "41"}, {"color", 1}}, {{"viewport", "41"}, {"lineweight", 50}}};
+    EXPECT_EQ(errorOf(document),
+              "layers[1].viewportOverrides[1].viewport: the viewport \"41\" has overrides of this "
+              "layer already; expected each viewport once");
+    overrides = {{{"viewport", "41"}}};
+    EXPECT_EQ(errorOf(document),
+              "layers[1].viewportOverrides[0]: expected an override of color, linetype, "
+              "lineweight, transparency or plotStyle, found none");
+    overrides = {{{"viewport", "41"}, {"plotStyle", "Thick"}}};
+    EXPECT_EQ(read(document).error, "");
 }
 
 TEST(DrawingErrors, ADuplicateHandleOrName) {
@@ -104,7 +196,7 @@ TEST(DrawingErrors, ADuplicateHandleOrName) {
               "blocks[0].entities[1].handle: the handle \"20\" is taken by another object; "
               "expected a handle of its own");
     document = smallDrawing();
-    document["objects"]["entries"]["KYRO_LAYOUT"]["handle"] = "1c";
+    document["objects"]["entries"]["KYRO_LAYOUT"]["handle"] = "1C";
     EXPECT_EQ(errorOf(document),
               "objects.entries.KYRO_LAYOUT.handle: the handle \"1C\" is taken by another object; "
               "expected a handle of its own");

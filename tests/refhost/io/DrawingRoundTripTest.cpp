@@ -191,6 +191,69 @@ TEST(DrawingRoundTrip, HeaderCurrentItemsAreResolvedByNameInAnyCase) {
     EXPECT_FALSE(header.contains("DIMSTYLE"));  // filled by the reader, unchanged
 }
 
+TEST(DrawingRoundTrip, NamesInAnotherCaseThanTheirRecordsComeBackAsTheFileSpelledThem) {
+    KyRefJson document = smallDrawing();
+    document["layers"][1]["linetype"] = "dashed";
+    KyRefJson& model = document["blocks"][0]["entities"];
+    model[0]["layer"] = "WALLS";
+    model[0]["linetype"] = "BYLAYER";
+    model[1]["block"] = "door";
+    KyRefJson& paper = document["blocks"][1]["entities"];
+    for (const char* handle : {"40", "41"}) {
+        paper.push_back({{"type", "VIEWPORT"},
+                         {"handle", handle},
+                         {"center", {5, 5}},
+                         {"width", 10},
+                         {"height", 10},
+                         {"viewCenter", {0, 0}},
+                         {"viewHeight", 10}});
+    }
+    paper[1]["frozenLayers"] = {"walls", "0"};
+    document["layers"][1]["viewportOverrides"] = {{{"viewport", "41"}, {"linetype", "Dashed"}}};
+    const Reading reading = read(document);
+    ASSERT_NE(reading.db, nullptr) << reading.error;
+    const KyRefJson saved = save(reading.db.get());
+    EXPECT_TRUE(unordered(saved) == unordered(document))
+        << nlohmann::json::diff(unordered(document), unordered(saved));
+
+    // A name that changed since is written as it is now.
+    change<KyDbLayerTableRecord>(recordNamed(reading.db->layerTableId(), L"Walls"),
+                                 [](KyDbLayerTableRecord* layer) { layer->setName(L"Outer"); });
+    const KyRefJson renamed = save(reading.db.get());
+    EXPECT_EQ(renamed["blocks"][0]["entities"][0]["layer"], "Outer");
+    EXPECT_EQ(renamed["blocks"][1]["entities"][1]["frozenLayers"], KyRefJson({"Outer", "0"}));
+    EXPECT_EQ(renamed["layers"][1]["linetype"], "dashed");
+}
+
+TEST(DrawingRoundTrip, WhatTheFileLeftOutOrGaveOfItsOwnStaysSo) {
+    KyRefJson document = smallDrawing();
+    // "type" is no member of a record: it is kept as the file's own.
+    document["layers"][1]["type"] = "structural";
+    document["dimStyles"][0]["type"] = "LINE";
+    // Nor is "handle" a member of a layer state.
+    document["layerStates"] = {
+        {{"name", "Plot"}, {"handle", "77"}, {"layers", KyRefJson::array()}}};
+    // A plot style dictionary that leaves its default out gets "Normal".
+    document["objects"]["entries"]["KYRO_PLOTSTYLENAME"] = {
+        {"type", "DICTIONARY"},
+        {"handle", "41"},
+        {"entries",
+         {{"Normal", {{"type", "PLACEHOLDER"}, {"handle", "42"}, {"name", "Normal"}}},
+          {"Thick", {{"type", "PLACEHOLDER"}, {"handle", "43"}, {"name", "Thick"}}}}}};
+    const Reading reading = read(document);
+    ASSERT_NE(reading.db, nullptr) << reading.error;
+    const KyRefJson saved = save(reading.db.get());
+    EXPECT_TRUE(unordered(saved) == unordered(document))
+        << nlohmann::json::diff(unordered(document), unordered(saved));
+
+    // Given in the file, the default is written back, the standard one too.
+    document["objects"]["entries"]["KYRO_PLOTSTYLENAME"]["default"] = "Normal";
+    const Reading given = read(document);
+    ASSERT_NE(given.db, nullptr) << given.error;
+    EXPECT_EQ(save(given.db.get())["objects"]["entries"]["KYRO_PLOTSTYLENAME"]["default"],
+              "Normal");
+}
+
 TEST(DrawingRoundTrip, CurrentStylesOfTheVariableDictionaryMoveToTheHeaderAndBack) {
     KyRefJson document = smallDrawing();
     KyRefJson& entries = document["objects"]["entries"];
