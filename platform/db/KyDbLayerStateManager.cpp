@@ -167,8 +167,8 @@ Kyro::ErrorStatus KyDbLayerStateManager::getLastRestoredLayerState(KyString& nam
     name = m_lastRestoredName;
     {
         KyDbObjectPointer<KyDbLayerState> state(m_lastRestoredId, KyDb::kForRead);
-        KyDbObjectPointer<KyDbDictionary> dictionary(
-            state ? state->ownerId() : KyDbObjectId(), KyDb::kForRead);
+        KyDbObjectPointer<KyDbDictionary> dictionary(state ? state->ownerId() : KyDbObjectId(),
+                                                     KyDb::kForRead);
         KyString current;
         if (dictionary && dictionary->nameAt(m_lastRestoredId, current) == Kyro::eOk) {
             name = current;
