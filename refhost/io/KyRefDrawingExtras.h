@@ -3,8 +3,8 @@
 // gives the file back as it was:
 // - for each object (by handle): which of its listed members the file gave
 //   (a member left out stays out while it holds its default), which points
-//   it gave with three coordinates, and the members the reader does not know,
-//   as JSON;
+//   it gave with three coordinates, the members the reader does not know,
+//   as JSON, and which of an entity kept whole name records;
 // - the kind of entities that the platform has no class for;
 // - the top-level members beside the tables (source, members nobody knows,
 //   the layer filters, kept whole until they are modelled);
@@ -25,11 +25,21 @@
 #include "KyRefJson.h"
 #include "db/KyDbDatabaseReactor.h"
 #include "db/KyDbHandle.h"
+#include "db/KyDbObjectId.h"
 
 class KyDbDatabase;
 
 class KyRefDrawingExtras : public KyDbDatabaseReactor {
 public:
+    // A member of an object kept whole that names a record (or, with
+    // `entry`, the entry of a dictionary) by name. The object holds no id,
+    // so this is how the host knows that the record is in use, and a save
+    // writes the name that the record has then.
+    struct Reference {
+        std::string member;
+        KyDbObjectId id;
+        bool entry = false;
+    };
     struct Form {
         // Bit i: the member i of the object's member list was in the file.
         std::uint64_t present = 0;
@@ -37,6 +47,9 @@ public:
         std::uint64_t threeD = 0;
         // Members the reader does not model, as the file had them; null if none.
         std::unique_ptr<KyRefJson> unknown;
+        // Of an entity kept whole: its members that name a record or a
+        // dictionary entry, with what each named when it was read.
+        std::vector<Reference> references;
     };
 
     // The extras of `database`, null when it was not read from a file.
@@ -54,6 +67,8 @@ public:
     // The type name of an entity whose kind the platform does not model.
     const std::string* entityType(KyDbHandle handle) const;
     void setEntityType(KyDbHandle handle, std::string type);
+    // The objects whose kept members name `id` (Reference), by handle.
+    std::vector<KyDbHandle> holdersOf(KyDbObjectId id) const;
 
     // ---- The document
     // Top-level members the file had, by name.

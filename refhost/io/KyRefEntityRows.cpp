@@ -570,8 +570,11 @@ KyDbEntity* checkImage(KyRefReadContext& context, const KyRefJsonNode& node) {
 }
 
 KyDbEntity* checkTable(KyRefReadContext& context, const KyRefJsonNode& node) {
-    context.entry(context.database()->tableStyleDictionaryId(),
-                  node.required("style", "the name of a table style"), "table style");
+    context.keepReference(
+        "style",
+        context.entry(context.database()->tableStyleDictionaryId(),
+                      node.required("style", "the name of a table style"), "table style"),
+        true);
     requiredPoint(node, "position");
     node.integer("rows", 0, 1000000);
     node.integer("columns", 0, 1000000);
@@ -716,8 +719,10 @@ void KyRefEntityRows::read(KyRefReadContext& context, const KyRefJsonNode& node,
         if (row != nullptr) {
             row->read(context, node);
         }
-        // Kept whole: what is not common to every entity is its data.
+        // Kept whole: what is not common to every entity is its data, and
+        // the records it names are noted beside it.
         form = kCommon.formOf(node.value());
+        form.references = context.takeReferences();
         auto unknown = std::make_unique<KyDbUnknownEntity>();
         unknown->setTypeName(kyrefWide(type));
         unknown->setData(form.unknown ? kyrefWide(form.unknown->dump()) : KyString(L"{}"));
@@ -738,7 +743,7 @@ void KyRefEntityRows::read(KyRefReadContext& context, const KyRefJsonNode& node,
     if (modelled && row->fill != nullptr) {
         row->fill(context, node, *appended);
     }
-    if (form.present != 0 || form.threeD != 0 || form.unknown) {
+    if (form.present != 0 || form.threeD != 0 || form.unknown || !form.references.empty()) {
         context.extras().setForm(handle, std::move(form));
     }
 }
@@ -770,6 +775,14 @@ KyRefJson KyRefEntityRows::write(KyRefWriteContext& context, KyDbObjectId id) {
         const KyRefJson data = KyRefJson::parse(unknown->data().utf8(), nullptr, false);
         if (data.is_object()) {
             KyRefMemberList::mergeUnknown(out, data);
+        }
+        // What the entity names goes by the name it has now: it may have been
+        // renamed since the file was read.
+        if (const KyRefDrawingExtras::Form* kept = context.form(id)) {
+            for (const KyRefDrawingExtras::Reference& reference : kept->references) {
+                out[reference.member] = reference.entry ? context.entryKey(reference.id)
+                                                        : context.recordName(reference.id);
+            }
         }
     }
     return out;

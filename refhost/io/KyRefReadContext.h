@@ -65,6 +65,11 @@ public:
     // (a part of a listed member that the database can't hold); the next
     // keepForm takes it.
     void keepUnknown(const std::string& name, KyRefJson value);
+    // Notes that the member `member` of the entity being read, which is kept
+    // whole, names `id` (a record, or with `entry` a dictionary entry); the
+    // entity's reading takes the notes (takeReferences).
+    void keepReference(const std::string& member, KyDbObjectId id, bool entry);
+    std::vector<KyRefDrawingExtras::Reference> takeReferences();
 
     // A drawing variable that the file keeps in the variable dictionary and
     // the database in its header: resolved once every dictionary is read.
@@ -84,5 +89,6 @@ private:
     KyRefDrawingExtras& m_extras;
     std::unordered_map<const void*, Names> m_names;
     KyRefJson m_pending;
+    std::vector<KyRefDrawingExtras::Reference> m_references;
     std::vector<DeferredVariable> m_deferred;
 };
