@@ -5,12 +5,23 @@
 #include "KyRefReadAccess.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbDictionary.h"
+#include "db/KyDbLayerTableRecord.h"
 #include "db/KyDbSymbolTable.h"
+#include "io/KyRefDrawingExtras.h"
 #include "rx/KyRxClass.h"
 #include "rx/KyRxMemberQueryEngine.h"
 #include "rx/KyRxProperty.h"
 
 namespace {
+
+// An object that is neither erased nor in an erased block.
+bool stands(KyDbObjectId id) {
+    if (!id.isValid() || id.isErased()) {
+        return false;
+    }
+    KyRefReadAccess<KyDbObject> object(id);
+    return object && !object->ownerId().isErased();
+}
 
 bool holds(const KyRxValue& value, KyDbObjectId id) {
     const KyDbObjectId* held = valueCast<KyDbObjectId>(&value);
@@ -45,6 +56,27 @@ bool refersTo(const KyDbObject* object, KyDbObjectId id) {
     return false;
 }
 
+// True when `object` is a layer that shows the linetype `id` in a viewport
+// that stands (the overrides of one that is gone refer to nothing).
+bool overridesWith(const KyDbObject* object, KyDbObjectId id) {
+    const auto* layer = kyrxCast<KyDbLayerTableRecord>(object);
+    if (layer == nullptr) {
+        return false;
+    }
+    KyArray<KyDbObjectId> viewports;
+    layer->getOverriddenViewports(viewports);
+    for (int i = 0; i < viewports.length(); ++i) {
+        if (!stands(viewports[i])) {
+            continue;
+        }
+        bool overridden = false;
+        if (layer->linetypeObjectId(viewports[i], overridden) == id && overridden) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool isContainer(KyDbObjectId id) {
     const KyRxClass* objectClass = id.objectClass();
     return objectClass == nullptr || objectClass->isDerivedFrom(KyDbSymbolTable::desc()) ||
@@ -54,6 +86,15 @@ bool isContainer(KyDbObjectId id) {
 }  // namespace
 
 bool KyRefRecordReferences::isReferenced(const KyDbDatabase* database, KyDbObjectId id) {
+    // What the drawing file's objects kept whole name by name.
+    if (const KyRefDrawingExtras* extras = KyRefDrawingExtras::find(database)) {
+        for (const KyDbHandle& handle : extras->holdersOf(id)) {
+            KyDbObjectId holder;
+            if (database->getKyDbObjectId(holder, handle) == Kyro::eOk && stands(holder)) {
+                return true;
+            }
+        }
+    }
     const std::uint64_t end = database->handseed().value();
     for (std::uint64_t handle = 1; handle < end; ++handle) {
         KyDbObjectId objectId;
@@ -62,7 +103,8 @@ bool KyRefRecordReferences::isReferenced(const KyDbDatabase* database, KyDbObjec
             continue;
         }
         KyRefReadAccess<KyDbObject> object(objectId);
-        if (object && !object->ownerId().isErased() && refersTo(object.object(), id)) {
+        if (object && !object->ownerId().isErased() &&
+            (refersTo(object.object(), id) || overridesWith(object.object(), id))) {
             return true;
         }
     }

@@ -62,6 +62,19 @@ void KyRefDrawingExtras::setEntityType(KyDbHandle handle, std::string type) {
     m_entityTypes[handle.value()] = std::move(type);
 }
 
+std::vector<KyDbHandle> KyRefDrawingExtras::holdersOf(KyDbObjectId id) const {
+    std::vector<KyDbHandle> holders;
+    for (const auto& [handle, form] : m_forms) {
+        for (const Reference& reference : form.references) {
+            if (reference.id == id) {
+                holders.emplace_back(handle);
+                break;
+            }
+        }
+    }
+    return holders;
+}
+
 bool KyRefDrawingExtras::hadMember(const std::string& name) const {
     return std::find(m_members.begin(), m_members.end(), name) != m_members.end();
 }

@@ -3,8 +3,8 @@
 // gives the file back as it was:
 // - for each object (by handle): which of its listed members the file gave
 //   (a member left out stays out while it holds its default), which points
-//   it gave with three coordinates, and the members the reader does not know,
-//   as JSON;
+//   it gave with three coordinates, the members the reader does not know,
+//   as JSON, and which of an entity kept whole name records;
 // - the kind of entities that the platform has no class for;
 // - the top-level members beside the tables (source, members nobody knows,
 //   the layer filters, kept whole until they are modelled);
@@ -25,11 +25,21 @@
 #include "KyRefJson.h"
 #include "db/KyDbDatabaseReactor.h"
 #include "db/KyDbHandle.h"
+#include "db/KyDbObjectId.h"
 
 class KyDbDatabase;
 
 class KyRefDrawingExtras : public KyDbDatabaseReactor {
 public:
+    // A member of an object kept whole that names a record (or, with
+    // `entry`, the entry of a dictionary) by name. The object holds no id,
+    // so this is how the host knows that the record is in use, and a save
+    // writes the name that the record has then.
+    struct Reference {
+        std::string member;
+        KyDbObjectId id;
+        bool entry = false;
+    };
     struct Form {
         // Bit i: the member i of the object's member list was in the file.
         std::uint64_t present = 0;
@@ -42,8 +52,13 @@ public:
         // them; null if none. The writer gives them back while they name the
         // same.
         std::unique_ptr<KyRefJson> spelled;
+        // Of an entity kept whole: its members that name a record or a
+        // dictionary entry, with what each named when it was read.
+        std::vector<Reference> references;
 
-        bool holdsAnything() const { return present != 0 || threeD != 0 || unknown || spelled; }
+        bool holdsAnything() const {
+            return present != 0 || threeD != 0 || unknown || spelled || !references.empty();
+        }
     };
 
     // The extras of `database`, null when it was not read from a file.
@@ -63,6 +78,8 @@ public:
     // The type name of an entity whose kind the platform does not model.
     const std::string* entityType(KyDbHandle handle) const;
     void setEntityType(KyDbHandle handle, std::string type);
+    // The objects whose kept members name `id` (Reference), by handle.
+    std::vector<KyDbHandle> holdersOf(KyDbObjectId id) const;
 
     // ---- The document
     // Top-level members the file had, by name.

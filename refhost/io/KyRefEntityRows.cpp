@@ -576,8 +576,11 @@ KyDbEntity* checkImage(KyRefReadContext& context, const KyRefJsonNode& node) {
 }
 
 KyDbEntity* checkTable(KyRefReadContext& context, const KyRefJsonNode& node) {
-    context.entry(context.database()->tableStyleDictionaryId(),
-                  node.required("style", "the name of a table style"), "table style");
+    context.keepReference(
+        "style",
+        context.entry(context.database()->tableStyleDictionaryId(),
+                      node.required("style", "the name of a table style"), "table style"),
+        true);
     requiredPoint(node, "position");
     node.integer("rows", 0, 1000000);
     node.integer("columns", 0, 1000000);
@@ -722,8 +725,10 @@ void KyRefEntityRows::read(KyRefReadContext& context, const KyRefJsonNode& node,
         if (row != nullptr) {
             row->read(context, node);
         }
-        // Kept whole: what is not common to every entity is its data.
+        // Kept whole: what is not common to every entity is its data, and
+        // the records it names are noted beside it.
         form = kCommon.formOf(node.value(), {"type", "handle"});
+        form.references = context.takeReferences();
         auto unknown = std::make_unique<KyDbUnknownEntity>();
         unknown->setTypeName(kyrefWide(type));
         unknown->setData(form.unknown ? kyrefWide(form.unknown->dump()) : KyString(L"{}"));
@@ -772,12 +777,21 @@ KyRefJson KyRefEntityRows::write(KyRefWriteContext& context, KyDbObjectId id) {
         context.shape(out, id, *row->members);
         return out;
     }
-    context.shape(out, id, kCommon);
     if (unknown != nullptr) {
         const KyRefJson data = KyRefJson::parse(unknown->data().utf8(), nullptr, false);
         if (data.is_object()) {
             KyRefMemberList::mergeUnknown(out, data);
         }
+        // What the entity names goes by the name it has now: it may have been
+        // renamed since the file was read. The shape below gives back the
+        // file's spelling of a name that still names the same.
+        if (const KyRefDrawingExtras::Form* kept = context.form(id)) {
+            for (const KyRefDrawingExtras::Reference& reference : kept->references) {
+                out[reference.member] = reference.entry ? context.entryKey(reference.id)
+                                                        : context.recordName(reference.id);
+            }
+        }
     }
+    context.shape(out, id, kCommon);
     return out;
 }

@@ -1,5 +1,7 @@
 #include "KyRefReadContext.h"
 
+#include <utility>
+
 #include "KyRefValueForms.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbDictionary.h"
@@ -246,4 +248,12 @@ void KyRefReadContext::keepSpellings(KyDbObjectId id, const KyRefJsonNode& node)
 
 void KyRefReadContext::keepUnknown(const std::string& name, KyRefJson value) {
     m_pending[name] = std::move(value);
+}
+
+void KyRefReadContext::keepReference(const std::string& member, KyDbObjectId id, bool entry) {
+    m_references.push_back({member, id, entry});
+}
+
+std::vector<KyRefDrawingExtras::Reference> KyRefReadContext::takeReferences() {
+    return std::exchange(m_references, {});
 }

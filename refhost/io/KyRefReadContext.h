@@ -72,6 +72,11 @@ public:
     // (a part of a listed member that the database can't hold); the next
     // keepForm takes it.
     void keepUnknown(const std::string& name, KyRefJson value);
+    // Notes that the member `member` of the entity being read, which is kept
+    // whole, names `id` (a record, or with `entry` a dictionary entry); the
+    // entity's reading takes the notes (takeReferences).
+    void keepReference(const std::string& member, KyDbObjectId id, bool entry);
+    std::vector<KyRefDrawingExtras::Reference> takeReferences();
 
     // A drawing variable that the file keeps in the variable dictionary and
     // the database in its header: resolved once every dictionary is read.
@@ -102,5 +107,6 @@ private:
     KyRefJson m_pending;
     // The values of the names written in another case since keepSpellings.
     std::vector<const KyRefJson*> m_spelled;
+    std::vector<KyRefDrawingExtras::Reference> m_references;
     std::vector<DeferredVariable> m_deferred;
 };

@@ -206,6 +206,11 @@ void writeLayer(KyRefWriteContext& context, const KyDbSymbolTableRecord& record,
     layer.getOverriddenViewports(viewports);
     for (int i = 0; i < viewports.length(); ++i) {
         const KyDbObjectId viewport = viewports[i];
+        // The overrides of a viewport that is gone stay with the layer, for
+        // an undo that brings it back, but the file has no viewport for them.
+        if (!viewport.isValid() || viewport.isErased()) {
+            continue;
+        }
         KyRefJson entry = KyRefJson::object();
         entry["viewport"] = Forms::handle(KyDbHandle(viewport.handle()));
         bool overridden = false;

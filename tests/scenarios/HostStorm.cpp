@@ -147,6 +147,8 @@ void HostStorm::step() {
         readItem();
     } else if (roll < 88) {
         document();
+    } else if (roll < 91) {
+        entity();
     } else {
         refresh();
     }
@@ -350,6 +352,31 @@ void HostStorm::unfinished() {
     if (interpreter.isWaiting()) {
         interpreter.queue(L"\x03");
         m_host.idle();
+    }
+}
+
+void HostStorm::entity() {
+    // Entities of the sample drawing, by handle.
+    static const wchar_t* const kHandles[] = {L"4A", L"4B", L"4C", L"4E", L"52", L"54"};
+    const std::wstring point =
+        std::to_wstring(m_dice.pick(20)) + L"," + std::to_wstring(m_dice.pick(20));
+    switch (m_dice.pick(6)) {
+        case 0:
+            type("entity", L"LINE\n" + point + L"\n5,5\n\n");
+            break;
+        case 1:
+            type("entity", L"CIRCLE\n" + point + L"\n2\n");
+            break;
+        case 2:
+            type("entity", L"-INSERT\nDoor\n" + point + L"\n1\n0\n");
+            break;
+        case 3:
+            type("entity", L"ERASE\n" + std::wstring(m_dice.among(kHandles)) + L"\n\n");
+            break;
+        default:
+            type("entity", L"CHPROP\n" + std::wstring(m_dice.among(kHandles)) + L"\n\n_LAyer\n" +
+                               layerName() + L"\n\n");
+            break;
     }
 }
 

@@ -4,11 +4,11 @@
 // layer states, freezes in viewports) and on the records of every table and
 // dictionary; undo and redo; batches; layouts made current and viewports
 // entered and left; the UCS, the visual style, the units and the resolution,
-// an external reference, REPAINT; current items set through the collections;
-// layer items written and any item read member by member; drawings opened
-// (the sample and a scratch copy that the storm saves now and then), made
-// new, switched and closed, down to none; refresh requests on the manual
-// clock and forced passes.
+// an external reference, REPAINT; entities drawn, erased and moved to other
+// layers; current items set through the collections; layer items written and
+// any item read member by member; drawings opened (the sample and a scratch
+// copy that the storm saves now and then), made new, switched and closed,
+// down to none; refresh requests on the manual clock and forced passes.
 #pragma once
 
 #include <filesystem>
@@ -68,6 +68,7 @@ private:
     void layerItem();
     void readItem();
     void document();
+    void entity();
     void refresh();
 
     // A command line text the storm types at random (never BATCH).
