@@ -69,7 +69,7 @@ TEST_F(SavedReferencesTest, ATableKeptWholeNamesItsStyleAsItIsNamedAtTheSaveAndK
     EXPECT_EQ(saved["blocks"][0]["entities"][0]["rows"], 2) << "the rest as it was read";
     run(L"U\n");
     saved = saveAndReadBack();
-    EXPECT_EQ(saved["blocks"][0]["entities"][0]["style"], "Schedule");
+    EXPECT_EQ(saved["blocks"][0]["entities"][0]["style"], "SCHEDULE");
 
     // Without the table, nothing names the style.
     run(L"ERASE\n70\n\n");
