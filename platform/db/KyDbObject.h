@@ -59,6 +59,7 @@
 #include "db/KyDbGuid.h"
 #include "db/KyDbHandle.h"
 #include "db/KyDbObjectId.h"
+#include "ge/KyGePoint3d.h"
 #include "rx/KyRxObject.h"
 
 class KyDbDatabase;
@@ -200,11 +201,33 @@ protected:
         if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
             return status;
         }
-        if (!(member == value)) {
+        if (!isSameValue(member, value)) {
             assertWriteEnabled();
             member = value;
         }
         return Kyro::eOk;
+    }
+    // Whether a setter is handed the value its member holds: exactly, also
+    // for points, which compare equal within a tolerance. A member keeps
+    // what it is given, so that a drawing is saved as it was read.
+    template <typename T>
+    static bool isSameValue(const T& member, const T& value) {
+        return member == value;
+    }
+    static bool isSameValue(const KyGePoint3d& member, const KyGePoint3d& value) {
+        return member.x == value.x && member.y == value.y && member.z == value.z;
+    }
+    template <typename T>
+    static bool isSameValue(const KyArray<T>& member, const KyArray<T>& value) {
+        if (member.length() != value.length()) {
+            return false;
+        }
+        for (int i = 0; i < member.length(); ++i) {
+            if (!isSameValue(member[i], value[i])) {
+                return false;
+            }
+        }
+        return true;
     }
     // True while undo or redo puts the object's state back.
     bool isRestoring() const { return (m_flags & kRestoring) != 0; }

@@ -64,7 +64,6 @@ public:
 
     void run(const KyString& text) {
         m_host->documents().newDocument();
-        m_host->commandLine().takeLines();
         const long long openBefore = kydbOpenObjectCount();
         m_host->editor()->sendCommand(text, false, false, true);
         m_host->idle();
@@ -99,10 +98,14 @@ private:
     }
 
     // Closes every document, lets the host release them, and refreshes.
+    // What the host keeps for a test to read (the command line, the texts
+    // sent) goes too: an input leaves behind only what the process keeps.
     void close() {
         m_host->documents().closeAll();
         m_host->idle();
         KyDiManager::refresh();
+        m_host->commandLine().takeLines();
+        m_host->editor()->takeSentCommands();
     }
 
     fs::path m_folder;

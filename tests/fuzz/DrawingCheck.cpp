@@ -124,16 +124,12 @@ void checkRefused(std::string_view text, const std::string& error) {
     checkErrorPath(text, error);
 }
 
-std::string readError(const KyString& error) {
-    return error.utf8();
-}
-
 // What the writer wrote reads again and is written the same.
 void checkReadsAgain(const std::string& written) {
     KyString error;
     const std::unique_ptr<KyDbDatabase> again = KyRefDrawingReader::readText(written, error);
     check(again != nullptr, "what the writer writes, the reader reads",
-          readError(error) + "\nwritten:\n" + written);
+          error.utf8() + "\nwritten:\n" + written);
     const std::string rewritten = KyRefDrawingWriter::toText(again.get());
     check(rewritten == written, "a drawing written, read and written again is written the same",
           "first:\n" + written + "\nsecond:\n" + rewritten);
@@ -219,12 +215,11 @@ void checkDrawing(std::string_view text) {
     {
         KyString error;
         const std::unique_ptr<KyDbDatabase> db = KyRefDrawingReader::readText(text, error);
-        check(kydbOpenObjectCount() == openBefore, "the reader leaves nothing open",
-              readError(error));
+        check(kydbOpenObjectCount() == openBefore, "the reader leaves nothing open", error.utf8());
         if (db == nullptr) {
-            checkRefused(text, readError(error));
+            checkRefused(text, error.utf8());
         } else {
-            check(error.isEmpty(), "a drawing read gives no error", readError(error));
+            check(error.isEmpty(), "a drawing read gives no error", error.utf8());
             checkRead(text, db.get());
         }
     }

@@ -156,6 +156,18 @@ std::string memberName(Random& random, const std::vector<std::string>& keys) {
     return kNames[pick(random, std::size(kNames))];
 }
 
+// Small letters made capitals and capitals small.
+std::string swapCase(std::string text) {
+    for (char& c : text) {
+        if (c >= 'a' && c <= 'z') {
+            c = static_cast<char>(c - 'a' + 'A');
+        } else if (c >= 'A' && c <= 'Z') {
+            c = static_cast<char>(c - 'A' + 'a');
+        }
+    }
+    return text;
+}
+
 // A value near `value`, of its own type.
 KyRefJson nearValue(const KyRefJson& value, const std::vector<const KyRefJson*>& strings,
                     Random& random) {
@@ -201,14 +213,7 @@ KyRefJson nearValue(const KyRefJson& value, const std::vector<const KyRefJson*>&
                 }
                 return text;
             case 3:
-                for (char& c : text) {
-                    if (c >= 'a' && c <= 'z') {
-                        c = static_cast<char>(c - 'a' + 'A');
-                    } else if (c >= 'A' && c <= 'Z') {
-                        c = static_cast<char>(c - 'A' + 'a');
-                    }
-                }
-                return text;
+                return swapCase(std::move(text));
             default:
                 text.insert(
                     text.begin() + static_cast<std::ptrdiff_t>(pick(random, text.size() + 1)),
@@ -257,6 +262,15 @@ void move(const Place& place, Random& random) {
     std::swap(array[place.index], array[to]);
 }
 
+// The member under another key: its own in another case (keys and names
+// compare without regard to case), or a key of the format or the document.
+void rename(const Place& place, const std::vector<std::string>& keys, Random& random) {
+    const std::string key = random() % 2 == 0 ? swapCase(place.key) : memberName(random, keys);
+    KyRefJson value = std::move(*place.value);
+    place.parent->erase(place.key);
+    (*place.parent)[key] = std::move(value);
+}
+
 bool mutateDocument(KyRefJson& document, Random& random) {
     std::vector<Place> places;
     collect(document, nullptr, std::string(), 0, places);
@@ -273,7 +287,7 @@ bool mutateDocument(KyRefJson& document, Random& random) {
     // The document itself only gains members; every other place can lose one.
     const Place& place = places[pick(random, places.size())];
     const bool top = place.parent == nullptr;
-    switch (random() % 8) {
+    switch (random() % 9) {
         case 0:
         case 1:
             if (top) {
@@ -305,6 +319,12 @@ bool mutateDocument(KyRefJson& document, Random& random) {
                 return false;
             }
             move(place, random);
+            return true;
+        case 7:
+            if (top || !place.parent->is_object()) {
+                return false;
+            }
+            rename(place, keys, random);
             return true;
         default: {
             if (!place.value->is_object()) {

@@ -2,8 +2,8 @@
 // a JSON document; each mutation changes one field of it: a value replaced
 // by one of another type or a near one of the same type (a name or handle
 // taken from elsewhere in the drawing, a number at a boundary), a member or
-// item dropped, duplicated or moved, or a member the format knows added
-// where it may not belong. A text that is no JSON starts over from a small
+// item dropped, duplicated or moved, a member under another key, or a member
+// the format knows added where it may not belong. A text that is no JSON starts over from a small
 // drawing, so that the reader sees structurally valid drawings with one
 // thing wrong, not syntax errors.
 #pragma once

@@ -4,10 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <vector>
 
 #include "DbTestSupport.h"
 #include "db/KyDbHandle.h"
 #include "db/KyDbStandardContent.h"
+#include "db/KyDbStubArena.h"
 #include "db/KyDbUnknownObject.h"
 
 namespace dbtest {
@@ -22,6 +24,26 @@ TEST(ObjectIdTest, TheNullIdAnswersEverythingSafely) {
     EXPECT_EQ(id.objectClass(), nullptr);
     EXPECT_EQ(id.handle(), 0u);
     EXPECT_EQ(KyRxValue(id).text(), KyString(L"0"));
+}
+
+TEST(ObjectIdTest, TheStubArenaHandsOutEachStubOnceZeroedAcrossItsGrowingBlocks) {
+    // Blocks of 1024, 2048 ... 65536 stubs, then 65536 each: enough stubs to
+    // cross every size and two blocks of the largest.
+    const long long before = KyDbStubArena::stubCount();
+    constexpr int kCount = 1024 * 127 + 65536 * 2 + 10;
+    std::vector<KyDbStub*> stubs;
+    for (int i = 0; i < kCount; ++i) {
+        KyDbStub* stub = KyDbStubArena::newStub();
+        ASSERT_EQ(stub->database, nullptr);
+        ASSERT_EQ(stub->handle, 0u) << "stub " << i << " was handed out before";
+        stub->handle = static_cast<std::uint64_t>(i) + 1;
+        stubs.push_back(stub);
+    }
+    EXPECT_EQ(KyDbStubArena::stubCount() - before, kCount);
+    for (int i = 0; i < kCount; ++i) {
+        ASSERT_EQ(stubs[static_cast<std::size_t>(i)]->handle, static_cast<std::uint64_t>(i) + 1)
+            << "stub " << i << " was handed out again later";
+    }
 }
 
 TEST(ObjectIdTest, IdsOfADeletedDatabaseStaySafeToAsk) {

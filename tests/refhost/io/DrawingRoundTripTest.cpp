@@ -254,6 +254,22 @@ TEST(DrawingRoundTrip, WhatTheFileLeftOutOrGaveOfItsOwnStaysSo) {
               "Normal");
 }
 
+TEST(DrawingRoundTrip, PointsComeBackToTheBitAlsoWithinTheirTolerance) {
+    // Points compare equal within 1e-10; a point member still keeps what
+    // it was given, also next to its default.
+    KyRefJson document = smallDrawing();
+    KyRefJson& line = document["blocks"][0]["entities"][0];
+    line["start"] = {1e-300, 0};
+    line["end"] = {10, 5 + 1e-12};
+    document["blocks"][2]["entities"][0]["center"] = {0, 0, 1e-11};
+    document["blocks"][2]["base"] = {-1e-320, 0, 0};
+    const Reading reading = read(document);
+    ASSERT_NE(reading.db, nullptr) << reading.error;
+    const KyRefJson saved = save(reading.db.get());
+    EXPECT_TRUE(unordered(saved) == unordered(document))
+        << nlohmann::json::diff(unordered(document), unordered(saved));
+}
+
 TEST(DrawingRoundTrip, CurrentStylesOfTheVariableDictionaryMoveToTheHeaderAndBack) {
     KyRefJson document = smallDrawing();
     KyRefJson& entries = document["objects"]["entries"];
