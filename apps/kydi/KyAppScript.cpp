@@ -56,6 +56,21 @@ std::string statusText(Kyro::ErrorStatus status) {
             return "the object is erased";
         case Kyro::eLockViolation:
             return "the document can't be locked";
+        case Kyro::eInvalidName:
+            return "the name is not valid";
+        case Kyro::eDuplicateRecordName:
+        case Kyro::eDuplicateKey:
+            return "the name is taken";
+        case Kyro::eCannotBeRenamed:
+            return "its name is fixed";
+        case Kyro::eCannotBeErasedByCaller:
+            return "the drawing can't do without it";
+        case Kyro::eNotSupported:
+            return "not supported";
+        case Kyro::eKeyNotFound:
+            return "not found";
+        case Kyro::eWasOpenedForWrite:
+            return "the object is open for write elsewhere";
         default:
             return "status " + std::to_string(static_cast<int>(status));
     }
