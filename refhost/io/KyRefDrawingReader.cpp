@@ -128,6 +128,30 @@ std::size_t nestingOf(const KyRefJson& document, std::size_t limit) {
     return deepest;
 }
 
+// The database keeps texts that end at their first NUL: a string of the file
+// that holds one would lose what follows it. Such a file is refused at the
+// string (the nesting is bounded before this runs).
+void refuseNul(const KyRefJsonNode& node) {
+    const KyRefJson& value = node.value();
+    if (value.is_string()) {
+        if (value.get_ref<const std::string&>().find('\0') != std::string::npos) {
+            node.fail("expected a string without a NUL character, found " + value.dump());
+        }
+    } else if (value.is_object()) {
+        for (auto it = value.begin(); it != value.end(); ++it) {
+            if (it.key().find('\0') != std::string::npos) {
+                node.fail("expected member names without a NUL character, found " +
+                          KyRefJson(it.key()).dump());
+            }
+            refuseNul(KyRefJsonNode(*it, node, it.key()));
+        }
+    } else if (value.is_array()) {
+        for (std::size_t i = 0; i < value.size(); ++i) {
+            refuseNul(node.item(i));
+        }
+    }
+}
+
 class Reading {
 public:
     Reading(KyDbDatabase* database, const KyRefJson& document)
@@ -429,6 +453,7 @@ std::unique_ptr<KyDbDatabase> KyRefDrawingReader::readDocument(const KyRefJson& 
         return nullptr;
     }
     try {
+        refuseNul(KyRefJsonNode(document));
         auto database = std::make_unique<KyDbDatabase>(false);
         KyDbUndoController* undo = database->undoController();
         const bool recording = undo->isRecording();

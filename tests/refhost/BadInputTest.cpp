@@ -96,8 +96,13 @@ TEST_F(BadInputTest, AValueOutOfItsRangeOrOfAnotherKindNamesItsPathAndWhatWasExp
                       "0",
                       3);
               })),
-              "layers[1].handle: expected a handle: hexadecimal text in capitals without leading "
-              "zeros, other than \"0\", found \"2\\u00000\"");
+              "layers[1].handle: expected a string without a NUL character, found \"2\\u00000\"");
+    EXPECT_EQ(refused(changed([](KyRefJson& d) {
+                  d["blocks"][0]["entities"].push_back(
+                      {{"type", std::string("a\0b", 3)}, {"handle", "70"}});
+              })),
+              "blocks[0].entities[0].type: expected a string without a NUL character, found "
+              "\"a\\u0000b\"");
 }
 
 TEST_F(BadInputTest, AReferenceTheDrawingCantResolveNamesItsPath) {

@@ -126,7 +126,7 @@ TEST(DrawingErrors, AMissingRequiredMember) {
 }
 
 TEST(DrawingErrors, AHandleHasOneSpelling) {
-    for (const char* handle : {"030", "3f", "3F ", "3F\\u0000", ""}) {
+    for (const char* handle : {"030", "3f", "3F ", ""}) {
         KyRefJson document = smallDrawing();
         document["blocks"][0]["entities"][0]["handle"] =
             KyRefJson::parse(std::string("\"") + handle + "\"");
