@@ -168,6 +168,19 @@ std::string swapCase(std::string text) {
     return text;
 }
 
+// The start of the UTF-8 character at `at` (the one after it with `next`),
+// so that a text cut or grown there stays UTF-8: a string of a drawing is
+// valid UTF-8, or the JSON could not be written.
+std::size_t characterStart(const std::string& text, std::size_t at, bool next = false) {
+    const auto continuation = [&text](std::size_t i) {
+        return i < text.size() && (static_cast<unsigned char>(text[i]) & 0xC0) == 0x80;
+    };
+    while (continuation(at)) {
+        at = next ? at + 1 : at - 1;
+    }
+    return std::min(at, text.size());
+}
+
 // A value near `value`, of its own type.
 KyRefJson nearValue(const KyRefJson& value, const std::vector<const KyRefJson*>& strings,
                     Random& random) {
@@ -209,15 +222,16 @@ KyRefJson nearValue(const KyRefJson& value, const std::vector<const KyRefJson*>&
                 return text + "x";
             case 2:
                 if (!text.empty()) {
-                    text.erase(pick(random, text.size()), 1);
+                    const std::size_t at = characterStart(text, pick(random, text.size()));
+                    text.erase(at, characterStart(text, at + 1, true) - at);
                 }
                 return text;
             case 3:
                 return swapCase(std::move(text));
             default:
-                text.insert(
-                    text.begin() + static_cast<std::ptrdiff_t>(pick(random, text.size() + 1)),
-                    "0|* \"\\"[random() % 6]);
+                text.insert(text.begin() + static_cast<std::ptrdiff_t>(
+                                               characterStart(text, pick(random, text.size() + 1))),
+                            "0|* \"\\"[random() % 6]);
                 return text;
         }
     }
