@@ -4,7 +4,8 @@
 # targets and what they link), and runs them.
 #
 #   scripts/fuzz.sh TARGET SECONDS   runs one target for SECONDS; its corpus
-#                                    grows in build/fuzz-corpus/TARGET
+#                                    grows in ~/.cache/kydi/fuzz-corpus/TARGET
+#                                    (KYDI_FUZZ_CORPUS names another folder)
 #   scripts/fuzz.sh --ci             runs every target for a short budget
 #                                    (scripts/test.sh), on a corpus of its own
 #
@@ -94,15 +95,22 @@ run() {
     mkdir -p "$corpus" "tests/fuzz/regressions/$target"
     local -a seed_folders
     mapfile -t seed_folders < <(seeds "$target")
+    # The fuzzer's status is what the run answers: a caller that tests it
+    # (`if ! run ...`) turns `set -e` off in here, so it is kept by hand.
+    local status=0
     # shellcheck disable=SC2046
-    "build/fuzz/tests/fuzz/$target" $(options "$target") "$@" "$corpus" "${seed_folders[@]}"
+    "build/fuzz/tests/fuzz/$target" $(options "$target") "$@" "$corpus" "${seed_folders[@]}" ||
+        status=$?
     local folder
     for folder in "${seed_folders[@]}"; do
         case $folder in "${TMPDIR:-/tmp}"/kydi-fuzz-seeds.*) rm -rf "$folder" ;; esac
     done
+    return "$status"
 }
 
 long=0
+# Long runs keep their corpora here, outside the checkout.
+corpus_root=${KYDI_FUZZ_CORPUS:-${XDG_CACHE_HOME:-$HOME/.cache}/kydi/fuzz-corpus}
 case ${1:-} in
 --ci)
     [ $# -eq 1 ] || usage
@@ -117,16 +125,22 @@ case ${1:-} in
             echo "$target failed: its input is in build/fuzz/artifacts/" >&2
             exit 1
         fi
-        echo "$target: $(grep -E '^#[0-9]+ +DONE' "$log" | tail -n 1)"
+        done_line=$(grep -E '^#[0-9]+ +DONE' "$log" | tail -n 1 || true)
+        if [ -z "$done_line" ]; then
+            tail -n 60 "$log" >&2
+            echo "$target did not finish its runs" >&2
+            exit 1
+        fi
+        echo "$target: $done_line"
     done
     ;;
 fuzz_*)
-    if [ $# -ne 2 ] || ! [[ $2 =~ ^[0-9]+$ ]] || [[ " ${targets[*]} " != *" $1 "* ]]; then
+    if [ $# -ne 2 ] || ! [[ $2 =~ ^[1-9][0-9]*$ ]] || [[ " ${targets[*]} " != *" $1 "* ]]; then
         usage
     fi
     long=1
     build
-    run "$1" "build/fuzz-corpus/$1" -max_total_time="$2"
+    run "$1" "$corpus_root/$1" -max_total_time="$2"
     ;;
 *) usage ;;
 esac
