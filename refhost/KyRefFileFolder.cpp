@@ -11,15 +11,25 @@ KyRefFileFolder::KyRefFileFolder(fs::path folder) {
     }
     // Links and ".." are resolved once, so that every path compares with
     // the folder as the file system has it.
+    // A folder that can't be resolved confines to nothing: every path is
+    // refused, rather than every path let through.
+    m_confined = true;
     std::error_code error;
-    fs::path canonical = fs::weakly_canonical(fs::absolute(folder, error), error);
-    m_folder = error ? fs::absolute(folder).lexically_normal() : std::move(canonical);
+    const fs::path absolute = fs::absolute(folder, error);
+    if (error) {
+        return;
+    }
+    fs::path canonical = fs::weakly_canonical(absolute, error);
+    m_folder = error ? absolute.lexically_normal() : std::move(canonical);
 }
 
 bool KyRefFileFolder::resolve(const KyString& typed, KyString& path) const {
     if (!isConfined()) {
         path = typed;
         return true;
+    }
+    if (m_folder.empty()) {
+        return false;
     }
     // An absolute path replaces the folder; it passes only when it lies in it.
     const fs::path joined = m_folder / fs::path(typed.utf8());

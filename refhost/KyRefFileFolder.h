@@ -17,7 +17,9 @@ public:
     explicit KyRefFileFolder(std::filesystem::path folder = {});
 
     // Whether paths are held to a folder.
-    bool isConfined() const { return !m_folder.empty(); }
+    bool isConfined() const { return m_confined; }
+    // The folder, resolved; empty when it could not be, and then every path
+    // is refused.
     const std::filesystem::path& folder() const { return m_folder; }
 
     // The path of the file that `typed` names, in `path`; false when it
@@ -26,4 +28,5 @@ public:
 
 private:
     std::filesystem::path m_folder;
+    bool m_confined = false;
 };

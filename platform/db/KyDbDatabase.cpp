@@ -25,6 +25,7 @@
 #include "db/KyDbUndoController.h"
 #include "db/KyDbViewTable.h"
 #include "db/KyDbViewportTable.h"
+#include "ge/KyGePoint3d.h"
 #include "rx/KyRxClass.h"
 
 namespace {
@@ -450,6 +451,22 @@ Kyro::ErrorStatus KyDbDatabase::checkVariable(const wchar_t* name, const KyRxVal
     return Kyro::eOk;
 }
 
+namespace {
+
+// Whether a header variable is handed the value it holds: exactly, also for
+// points, which compare equal within a tolerance. A variable keeps what it
+// is given, so that a drawing is saved as it was read.
+bool isSameHeaderValue(const KyRxValue& current, const KyRxValue& value) {
+    const KyGePoint3d* a = valueCast<KyGePoint3d>(&current);
+    const KyGePoint3d* b = valueCast<KyGePoint3d>(&value);
+    if (a != nullptr && b != nullptr) {
+        return a->x == b->x && a->y == b->y && a->z == b->z;
+    }
+    return current == value;
+}
+
+}  // namespace
+
 Kyro::ErrorStatus KyDbDatabase::setHeaderVar(const wchar_t* name, const KyRxValue& value) {
     if (name == nullptr || name[0] == L'\0') {
         return Kyro::eInvalidInput;
@@ -461,7 +478,7 @@ Kyro::ErrorStatus KyDbDatabase::setHeaderVar(const wchar_t* name, const KyRxValu
         return status;
     }
     const KyRxValue* current = m_header->find(name);
-    if (current != nullptr && *current == value) {
+    if (current != nullptr && isSameHeaderValue(*current, value)) {
         return Kyro::eOk;
     }
     writeHeaderValue(name, value, true);

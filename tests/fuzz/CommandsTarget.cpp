@@ -3,7 +3,10 @@
 // (the layer starts once per process), with every known collection and
 // every context made, so that each refresh has something to follow. Each
 // input runs on a new drawing of its own: the text is typed, the host runs
-// its queue, the data item layer refreshes, and the drawing closes.
+// its queue, the data item layer refreshes, and the drawing closes. The
+// session variables go back to what they were, so that no input depends on
+// the ones before it. An input that starts with the byte 01 runs in the
+// platform's second language, where commands and keywords have local names.
 //
 // The host reads the files that commands name (BATCH, XATTACH) only in a
 // scratch folder the target makes and fills with a few files of its own.
@@ -19,6 +22,7 @@
 #include "FuzzTarget.h"
 #include "KyAppContextList.h"
 #include "KyRefHost.h"
+#include "base/KyRxResourceInstance.h"
 #include "db/KyDbOpenObject.h"
 #include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiManager.h"
@@ -60,17 +64,27 @@ public:
         }
         KyAppContextList::makeAll();
         close();
+        m_sessionValues = m_host->sysVars().sessionValues();
     }
 
-    void run(const KyString& text) {
+    void run(std::string_view text) {
+        const bool local = !text.empty() && text.front() == '\x01';
+        if (local) {
+            text.remove_prefix(1);
+            KyRxResourceInstance::setLanguage(L"de");
+        }
         m_host->documents().newDocument();
         const long long openBefore = kydbOpenObjectCount();
-        m_host->editor()->sendCommand(text, false, false, true);
+        m_host->editor()->sendCommand(KyString::fromUtf8(std::string(text)), false, false, true);
         m_host->idle();
         KyDiManager::refresh();
         kyfuzz::check(kydbOpenObjectCount() == openBefore, "the commands leave nothing open");
         kyfuzz::checkWritten(m_host->documents().currentDatabase());
         close();
+        m_host->sysVars().restoreSessionValues(m_sessionValues);
+        if (local) {
+            KyRxResourceInstance::setLanguage(L"");
+        }
     }
 
     // Stops the data item layer, then closes the host, as the program does
@@ -110,12 +124,15 @@ private:
 
     fs::path m_folder;
     std::unique_ptr<KyRefHost> m_host;
+    KyRefSysVarStore::SessionValues m_sessionValues;
 };
 
 Session* g_session = nullptr;
 
-// The session ends when the process does, before the statics of the
-// platform and the data item layer (made before it) go.
+// The session ends when the process does. Statics that a later input made
+// first go before it; ending the data item layer after them would show as a
+// use after free under the sanitizers, and the replay of every seed ends a
+// session this way.
 void endSession() {
     delete g_session;
     g_session = nullptr;
@@ -128,6 +145,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         g_session = new Session();
         std::atexit(&endSession);
     }
-    g_session->run(KyString::fromUtf8(kyfuzz::textOf(data, size)));
+    g_session->run(kyfuzz::textOf(data, size));
     return 0;
 }

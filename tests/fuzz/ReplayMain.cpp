@@ -49,6 +49,10 @@ int main(int argc, char** argv) {
             std::ifstream in(input, std::ios::binary);
             const std::vector<char> bytes((std::istreambuf_iterator<char>(in)),
                                           std::istreambuf_iterator<char>());
+            if (!in && !in.eof()) {
+                std::fprintf(stderr, "can't read %s\n", input.string().c_str());
+                return 1;
+            }
             std::printf("%s\n", input.string().c_str());
             std::fflush(stdout);
             LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()),

@@ -68,6 +68,21 @@ TEST(FileFolder, PathsResolveUnderTheFolderAndNoneLeadsOutOfIt) {
     EXPECT_EQ(resolved(anywhere, "../x/y.txt"), "../x/y.txt");
 }
 
+TEST(FileFolder, AFolderThatCantBeResolvedRefusesEveryPath) {
+    // A relative folder in a working folder that has gone: the process can't
+    // tell where the folder is.
+    const Folders folders;
+    const fs::path before = fs::current_path();
+    fs::current_path(folders.inside);
+    fs::remove_all(folders.inside);
+    const KyRefFileFolder folder("scratch");
+    fs::current_path(before);
+    EXPECT_TRUE(folder.isConfined());
+    EXPECT_EQ(folder.folder(), fs::path());
+    EXPECT_EQ(resolved(folder, "a.txt"), "refused");
+    EXPECT_EQ(resolved(folder, "/etc/passwd"), "refused");
+}
+
 // The folders come first among the bases: the host is built with their path.
 class ConfinedHostTest : protected Folders, public RefHostTest {
 protected:

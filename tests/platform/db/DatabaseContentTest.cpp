@@ -26,6 +26,7 @@
 #include "db/KyDbTableStyle.h"
 #include "db/KyDbTextStyleTableRecord.h"
 #include "db/KyDbVisualStyle.h"
+#include "ge/KyGePoint3d.h"
 
 namespace dbtest {
 namespace {
@@ -244,6 +245,14 @@ TEST_F(NewDrawingTest, AnyDrawingVariableLivesInTheHeader) {
     const KyStringArray names = db->headerVarNames();
     EXPECT_TRUE(names.contains(KyString(L"LUNITS")));
     EXPECT_TRUE(names.contains(KyString(L"CLAYER")));
+
+    // A point keeps what it is given, also within the tolerance of points.
+    ASSERT_EQ(db->setHeaderVar(L"INSBASE", KyRxValue(KyGePoint3d(1.0, 2.0, 0.0))), Kyro::eOk);
+    const KyGePoint3d near(1.0 + 1e-12, 2.0, 0.0);
+    ASSERT_EQ(db->setHeaderVar(L"INSBASE", KyRxValue(near)), Kyro::eOk);
+    ASSERT_EQ(db->getHeaderVar(L"INSBASE", value), Kyro::eOk);
+    ASSERT_NE(valueCast<KyGePoint3d>(&value), nullptr);
+    EXPECT_EQ(valueCast<KyGePoint3d>(&value)->x, near.x);
 }
 
 TEST(EmptyDrawingTest, AnEmptyDatabaseHasItsTablesAndNothingElse) {
