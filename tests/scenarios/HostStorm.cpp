@@ -314,6 +314,9 @@ void HostStorm::batch() {
         text += L"BATCH\n" + m_batchFile.wstring() + L"\n";
     }
     std::ofstream(m_batchFile) << utf8(text);
+    if (m_beforeBatch) {
+        m_beforeBatch();
+    }
     m_batchRan = true;
     type("batch", L"BATCH\n" + m_batchFile.wstring() + L"\n");
     m_where += " with " + oneLine(text);

@@ -11,6 +11,8 @@
 // down to none; refresh requests on the manual clock and forced passes.
 #pragma once
 
+#include <functional>
+
 #include <filesystem>
 #include <map>
 #include <string>
@@ -46,6 +48,9 @@ public:
     // which drops what the collections had pending: until they are reset, a
     // change made just before it may be missing from a list, or told late.
     bool takeBatchRan() { return std::exchange(m_batchRan, false); }
+    // Called before a batch starts, while what the collections had pending
+    // is still theirs: the last moment to look at them without a reset.
+    void setBeforeBatch(std::function<void()> call) { m_beforeBatch = std::move(call); }
 
 private:
     // Counts a step of `kind` and says what it does in `where`.
@@ -87,6 +92,7 @@ private:
     std::map<std::string, int> m_mix;
     long long m_steps = 0;
     bool m_batchRan = false;
+    std::function<void()> m_beforeBatch;
 };
 
 }  // namespace kytest

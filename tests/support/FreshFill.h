@@ -21,23 +21,30 @@
 namespace kytest {
 
 // "Walls #1A" for the item of a database object, the display name otherwise.
-inline std::string itemKey(KyDiDynamicObject* item) {
+// With `database`, an object of another database is told apart: drawings
+// opened from one file share their handles.
+inline std::string itemKey(KyDiDynamicObject* item, const KyDbDatabase* database = nullptr) {
     std::string key = itemName(item);
     if (const auto* dbItem = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(item))) {
         char handle[32];
         std::snprintf(handle, sizeof handle, " #%llX",
                       static_cast<unsigned long long>(dbItem->objectId().handle()));
         key += handle;
+        if (database != nullptr && !dbItem->objectId().isNull() &&
+            dbItem->objectId().database() != database) {
+            key += " of another drawing";
+        }
     }
     return key;
 }
 
-// The keys of the items, sorted.
-inline std::vector<std::string> heldItems(KyDiObservableCollection* collection) {
+// The keys of the items, sorted; with `database`, as itemKey tells them.
+inline std::vector<std::string> heldItems(KyDiObservableCollection* collection,
+                                          const KyDbDatabase* database = nullptr) {
     std::vector<std::string> keys;
     const KyDiItemArray& items = collection->getItems();
     for (int i = 0; i < items.length(); ++i) {
-        keys.push_back(itemKey(items[i]));
+        keys.push_back(itemKey(items[i], database));
     }
     std::sort(keys.begin(), keys.end());
     return keys;
