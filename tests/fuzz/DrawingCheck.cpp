@@ -1,5 +1,8 @@
 #include "DrawingCheck.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <memory>
 #include <optional>
 #include <string>
@@ -93,6 +96,14 @@ void checkErrorPath(std::string_view text, const std::string& error) {
     std::string problem;
     const std::optional<std::vector<Step>> steps = errorPath(error, problem);
     if (!steps) {
+        // Without a path, a problem of the file as a whole; any other error
+        // would mean that paths are written in a way this check can't read.
+        static const char* const kWholeFile[] = {
+            "the file is not complete, valid JSON", "the drawing nests", "expected a drawing",
+            "the standard content", "expected member names without a NUL"};
+        check(std::any_of(std::begin(kWholeFile), std::end(kWholeFile),
+                          [&error](const char* head) { return error.rfind(head, 0) == 0; }),
+              "an error names a path of the file, or a problem of the file as a whole", error);
         return;
     }
     const KyRefJson document = KyRefJson::parse(text, nullptr, false);
