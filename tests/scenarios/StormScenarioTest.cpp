@@ -23,6 +23,7 @@
 #include <iostream>
 #include <memory>
 
+#include "KyAppContextList.h"
 #include "KyRefDocument.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbOpenObject.h"
@@ -41,10 +42,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-
-// The names the layer's context factories answer to; a name without a
-// factory in this build makes nothing.
-const wchar_t* const kContextNames[] = {L"SUN", L"DRAWING", L"SELECTION", L"VIEWPORT", L"RENDER"};
 
 class Storm : public kytest::RefHostFixture {
 protected:
@@ -160,9 +157,7 @@ TEST_F(Storm, AHundredThousandRandomStepsKeepEveryCollectionAndContextInStep) {
 
     buildCollections();
     ASSERT_GE(checked.size(), 10U);
-    for (const wchar_t* name : kContextNames) {
-        KyDiManager::getContextManager()->getContext(name, true);
-    }
+    KyAppContextList::makeAll();
     kytest::ContextCheck contexts(where);
     ASSERT_GE(contexts.watchAll(), 1);
     witnessContexts();
