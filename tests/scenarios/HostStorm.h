@@ -48,6 +48,7 @@ public:
     // which drops what the collections had pending: until they are reset, a
     // change made just before it may be missing from a list, or told late.
     bool takeBatchRan() { return std::exchange(m_batchRan, false); }
+    bool batchRan() const { return m_batchRan; }
     // Called before a batch starts, while what the collections had pending
     // is still theirs: the last moment to look at them without a reset.
     void setBeforeBatch(std::function<void()> call) { m_beforeBatch = std::move(call); }

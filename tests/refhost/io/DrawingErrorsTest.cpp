@@ -3,6 +3,9 @@
 // after much of the drawing was built, leaves nothing open and nothing behind.
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <limits>
+
 #include "DrawingTestSupport.h"
 #include "io/KyRefDrawingReader.h"
 
@@ -82,6 +85,11 @@ TEST(DrawingErrors, AMemberOfTheWrongTypeOrValue) {
     EXPECT_EQ(errorOf(document),
               "layers[1].lineweight: expected a layer lineweight: -3 (Default) or a standard "
               "weight in hundredths of a millimetre, found 27");
+    // A number that int would wrap around onto the weight 0.
+    document["layers"][1]["lineweight"] = std::numeric_limits<std::int64_t>::min();
+    EXPECT_EQ(errorOf(document),
+              "layers[1].lineweight: expected a layer lineweight: -3 (Default) or a standard "
+              "weight in hundredths of a millimetre, found -9223372036854775808");
     document = smallDrawing();
     document["blocks"][2]["entities"][0]["radius"] = -1;
     EXPECT_EQ(errorOf(document),
