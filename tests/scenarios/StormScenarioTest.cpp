@@ -11,7 +11,8 @@
 // now and then a look comes just before one.
 //
 // KYDI_STORM_SEED replaces the seed, KYDI_STORM_STEPS the number of steps;
-// KYDI_STORM_CHECK_EVERY=N looks after every N steps as well.
+// KYDI_STORM_CHECK_EVERY=N looks after every N steps as well (from the step
+// KYDI_STORM_CHECK_FROM on, if given).
 // A failure names the step it came in and the steps before it.
 #include <gtest/gtest.h>
 
@@ -153,6 +154,7 @@ TEST_F(Storm, AHundredThousandRandomStepsKeepEveryCollectionAndContextInStep) {
     const long long steps = kytest::StormDice::fromEnvironment("KYDI_STORM_STEPS", 100000);
     // To find the step a fault comes in: a look after every so many steps.
     const long long checkEvery = kytest::StormDice::fromEnvironment("KYDI_STORM_CHECK_EVERY", 0);
+    const long long checkFrom = kytest::StormDice::fromEnvironment("KYDI_STORM_CHECK_FROM", 0);
     std::string where = "setting up";
 
     buildCollections();
@@ -196,7 +198,7 @@ TEST_F(Storm, AHundredThousandRandomStepsKeepEveryCollectionAndContextInStep) {
         }
         // The dice are asked every time, so that a check asked for by the
         // environment leaves the steps as they were.
-        if (dice.oneIn(300) || (checkEvery > 0 && step % checkEvery == 0)) {
+        if (dice.oneIn(300) || (checkEvery > 0 && step >= checkFrom && step % checkEvery == 0)) {
             expectInStep("at " + where, storm.takeBatchRan());
         }
     }
