@@ -143,12 +143,10 @@ void fillDictionary(KyRefReadContext& context, const KyRefJsonNode& node, KyDbOb
     if (!defaultKey) {
         return;
     }
+    // The key is found in any case, and written back as the file spelled it.
+    const KyDbObjectId entry = context.entry(id, *defaultKey, "plot style");
+    context.keepSpellings(id, node);
     KyDbObjectPointer<KyDbDictionaryWithDefault> dictionary(id, KyDb::kForWrite);
-    KyDbObjectId entry;
-    if (dictionary->getAt(defaultKey->asText(), entry) != Kyro::eOk) {
-        defaultKey->fail("expected the key of an entry, found \"" + defaultKey->asString() +
-                         "\", which the dictionary does not have");
-    }
     KyRefReadContext::check(dictionary->setDefaultId(entry), *defaultKey, "the key of an entry");
 }
 
@@ -416,8 +414,14 @@ KyDbObject* readDictionaryVar(KyRefReadContext& context, const KyRefJsonNode& no
     variable->setValue(value);
     const KyRefHeaderRow* row =
         place.inVariableDictionary ? KyRefHeaderRows::find(place.key) : nullptr;
-    if (row != nullptr && row->inVariableDictionary && !value.isEmpty()) {
-        const auto valueNode = node.required("value", "a string");
+    if (row != nullptr && row->inVariableDictionary) {
+        // A variable of the drawing names its current style: the database
+        // always has one, so a file that names none could not be given back.
+        const std::string expected = std::string("the name of a ") + row->what;
+        const auto valueNode = node.required("value", expected.c_str());
+        if (value.isEmpty()) {
+            valueNode.fail("expected " + expected + ", found \"\"");
+        }
         context.deferVariable({row->name, valueNode.asString(), valueNode.path()});
     }
     return variable.release();

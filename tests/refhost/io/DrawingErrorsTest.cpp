@@ -249,6 +249,18 @@ TEST(DrawingErrors, AReferenceToANameOrHandleTheDrawingDoesNotHave) {
     EXPECT_EQ(errorOf(document),
               "objects.entries.KyDbVariableDictionary.entries.CMLEADERSTYLE.value: expected the "
               "name of a multileader style, found \"Nope\", which the drawing does not have");
+    // The database always has a current style: a file that names none could
+    // not be written back as it was.
+    auto& style =
+        document["objects"]["entries"]["KyDbVariableDictionary"]["entries"]["CMLEADERSTYLE"];
+    style.erase("value");
+    EXPECT_EQ(errorOf(document),
+              "objects.entries.KyDbVariableDictionary.entries.CMLEADERSTYLE.value: missing; "
+              "expected the name of a multileader style");
+    style["value"] = "";
+    EXPECT_EQ(errorOf(document),
+              "objects.entries.KyDbVariableDictionary.entries.CMLEADERSTYLE.value: expected the "
+              "name of a multileader style, found \"\"");
 }
 
 TEST(DrawingErrors, AStandardDictionaryWithEntriesOfAnotherType) {

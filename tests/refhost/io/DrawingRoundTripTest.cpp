@@ -252,6 +252,12 @@ TEST(DrawingRoundTrip, WhatTheFileLeftOutOrGaveOfItsOwnStaysSo) {
     ASSERT_NE(given.db, nullptr) << given.error;
     EXPECT_EQ(save(given.db.get())["objects"]["entries"]["KYRO_PLOTSTYLENAME"]["default"],
               "Normal");
+    // In another case than its entry's key, as the file spelled it.
+    document["objects"]["entries"]["KYRO_PLOTSTYLENAME"]["default"] = "THICK";
+    const Reading spelled = read(document);
+    ASSERT_NE(spelled.db, nullptr) << spelled.error;
+    EXPECT_EQ(save(spelled.db.get())["objects"]["entries"]["KYRO_PLOTSTYLENAME"]["default"],
+              "THICK");
 }
 
 TEST(DrawingRoundTrip, PointsComeBackToTheBitAlsoWithinTheirTolerance) {
