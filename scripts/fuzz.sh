@@ -125,7 +125,7 @@ case ${1:-} in
             echo "$target failed: its input is in build/fuzz/artifacts/" >&2
             exit 1
         fi
-        done_line=$(grep -E '^#[0-9]+ +DONE' "$log" | tail -n 1 || true)
+        done_line=$(grep -aE '^#[0-9]+[[:space:]]+DONE' "$log" | tail -n 1 || true)
         if [ -z "$done_line" ]; then
             tail -n 60 "$log" >&2
             echo "$target did not finish its runs" >&2
