@@ -117,14 +117,9 @@ KyRefJson KyRefValueForms::transparency(const KyCmTransparency& transparency) {
 KyDb::LineWeight KyRefValueForms::lineWeight(const KyRefJsonNode& node, WeightUse use) {
     const KyRefJson& value = node.value();
     const bool integer = value.is_number_integer();
-    // Out of the weights' range is 1, which no standard weight is; a value
-    // narrowed to int first could wrap around onto one.
-    const std::int64_t wide =
-        !integer ? 1
-        : value.is_number_unsigned()
-            ? (value.get<std::uint64_t>() <= 211u ? value.get<std::int64_t>() : 1)
-            : value.get<std::int64_t>();
-    const int weight = wide >= -3 && wide <= 211 ? static_cast<int>(wide) : 1;
+    // Compared as JSON numbers before narrowing: a value beyond int could
+    // wrap around onto a standard weight. Out of range is 1, which none is.
+    const int weight = integer && value >= -3 && value <= 211 ? value.get<int>() : 1;
     const bool allowed =
         integer && isStandardWeight(weight) &&
         (use == WeightUse::kAny || (weight != KyDb::kLnWtByLayer && weight != KyDb::kLnWtByBlock));
