@@ -1,12 +1,16 @@
 #include "KyRefLayoutViewports.h"
 
+#include <memory>
+
 #include "KyRefReadAccess.h"
 #include "db/KyDbBlockTableRecord.h"
 #include "db/KyDbBlockTableRecordIterator.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbLayout.h"
+#include "db/KyDbObjectPointer.h"
 #include "db/KyDbSymbolTable.h"
 #include "db/KyDbViewport.h"
+#include "db/KyDbViewportTableRecord.h"
 #include "rx/KyRxClass.h"
 #include "rx/KyRxValue.h"
 
@@ -32,6 +36,21 @@ int storedNumber(const KyDbDatabase* database, int otherwise) {
 
 bool isViewport(KyDbObjectId id) {
     return KyRxClass::isDerivedFrom(id.objectClass(), KyDbViewport::desc());
+}
+
+// Adds the active configuration "*Active" to a drawing that lacks it, with
+// the default view; answers its id.
+Kyro::ErrorStatus addActiveRecord(KyDbDatabase* database, KyDbObjectId& id) {
+    KyDbObjectPointer<KyDbSymbolTable> viewports(database->viewportTableId(), KyDb::kForWrite);
+    if (!viewports) {
+        return viewports.openStatus();
+    }
+    auto record = std::make_unique<KyDbViewportTableRecord>();
+    record->setName(kActiveName);
+    if (const Kyro::ErrorStatus status = viewports->add(id, record.get()); status != Kyro::eOk) {
+        return status;
+    }
+    return record.release()->close();
 }
 
 }  // namespace
@@ -96,6 +115,17 @@ KyDbObjectId KyRefLayoutViewports::viewHolder(KyDbDatabase* database) {
     }
     const KyDbObjectId id = entered(database);
     return !id.isNull() ? id : numbered(database, kPaper);
+}
+
+Kyro::ErrorStatus KyRefLayoutViewports::makeViewHolder(KyDbDatabase* database, KyDbObjectId& id) {
+    id = viewHolder(database);
+    if (!id.isNull()) {
+        return Kyro::eOk;
+    }
+    if (database == nullptr) {
+        return Kyro::eNoCurrentDocument;
+    }
+    return database->tilemode() ? addActiveRecord(database, id) : Kyro::eNotApplicable;
 }
 
 KyDbObjectId KyRefLayoutViewports::activeRecord(KyDbDatabase* database) {

@@ -31,6 +31,10 @@ public:
     // layout the viewport entered, or else the paper viewport. Null when the
     // drawing has none.
     static KyDbObjectId viewHolder(KyDbDatabase* database);
+    // The view holder, for a change: in model space the active configuration
+    // is added when the drawing lacks it. eNotApplicable on a layout without
+    // a viewport. The caller holds the document's lock.
+    static Kyro::ErrorStatus makeViewHolder(KyDbDatabase* database, KyDbObjectId& id);
     // The active configuration "*Active" of the viewport table; null when the
     // drawing has none.
     static KyDbObjectId activeRecord(KyDbDatabase* database);

@@ -185,8 +185,8 @@ void ucsRenamed(KyRefCommandContext& context, const KyString& oldName, const KyS
 // ---- Visual styles: the host keeps the current one by name.
 
 bool isCurrentVisualStyle(KyRefCommandContext& context, const KyString& name) {
-    const KyRefVisualStyleService* service = context.host().visualStyleService();
-    return service != nullptr && service->currentName().compareNoCase(name) == 0;
+    KyRefReadAccess<KyDbVisualStyle> style(KyRefVisualStyleService::shownStyle(context.database()));
+    return style && name.compareNoCase(style->name()) == 0;
 }
 
 void visualStyleCheckRename(KyRefCommandContext& context, const KyString& name) {

@@ -15,25 +15,6 @@
 #include "db/KyDbViewport.h"
 #include "db/KyDbViewportTableRecord.h"
 
-namespace {
-
-// Adds the active configuration "*Active" to a drawing that lacks it, with
-// the default view; answers its id.
-Kyro::ErrorStatus addActiveRecord(KyDbDatabase* database, KyDbObjectId& id) {
-    KyDbObjectPointer<KyDbSymbolTable> viewports(database->viewportTableId(), KyDb::kForWrite);
-    if (!viewports) {
-        return viewports.openStatus();
-    }
-    auto record = std::make_unique<KyDbViewportTableRecord>();
-    record->setName(L"*Active");
-    if (const Kyro::ErrorStatus status = viewports->add(id, record.get()); status != Kyro::eOk) {
-        return status;
-    }
-    return record.release()->close();
-}
-
-}  // namespace
-
 KyRefViewportService::KyRefViewportService(KyRefHost& host) : m_host(host) {
     m_background.setColorMethod(KyCmColor::kNone);
 }
@@ -77,14 +58,10 @@ Kyro::ErrorStatus KyRefViewportService::changeView(const Change& change) {
     if (lock.lockStatus() != Kyro::eOk) {
         return lock.lockStatus();
     }
-    KyDbObjectId id = KyRefLayoutViewports::viewHolder(database);
-    if (id.isNull()) {
-        if (!database->tilemode()) {
-            return Kyro::eNotApplicable;
-        }
-        if (const Kyro::ErrorStatus status = addActiveRecord(database, id); status != Kyro::eOk) {
-            return status;
-        }
+    KyDbObjectId id;
+    if (const Kyro::ErrorStatus status = KyRefLayoutViewports::makeViewHolder(database, id);
+        status != Kyro::eOk) {
+        return status;
     }
     KyDbObjectPointer<KyDbObject> holder(id, KyDb::kForWrite);
     if (!holder) {

@@ -8,9 +8,7 @@
 #include "KyRefNamedItem.h"
 #include "KyRefReadAccess.h"
 #include "db/KyDbDatabase.h"
-#include "db/KyDbObjectPointer.h"
 #include "db/KyDbReservedStrings.h"
-#include "db/KyDbViewport.h"
 #include "db/KyDbVisualStyle.h"
 
 namespace {
@@ -71,27 +69,17 @@ KyDbObjectId chosenStyle(KyRefCommandContext& context, int option) {
     return id;
 }
 
-// The viewport entity of a layout that is current; null in model space.
-KyDbObjectId currentViewportEntity(KyRefCommandContext& context) {
-    KyDbObjectId id;
-    KyRefViewportService* viewports = context.host().viewportService();
-    if (viewports != nullptr && !context.database()->tilemode()) {
-        viewports->viewportId(id);
-    }
-    return id;
-}
-
 }  // namespace
 
 void KyRefVsCurrentCommand::run(KyRefCommandContext& context) {
-    KyRefVisualStyleService* service = context.host().visualStyleService();
-    const KyDbObjectId viewportId = currentViewportEntity(context);
-    if (service == nullptr && viewportId.isNull()) {
-        context.fail(L"No viewport shows a visual style.");
-    }
+    KyDbDatabase* database = context.database();
     const StyleKeywords words;
     // The current style as the user reads it: a standard style in the local form.
-    KyString current = service != nullptr ? service->currentName() : KyString();
+    KyString current = KyRefVisualStyleService::kDefaultStyle;
+    if (KyRefReadAccess<KyDbVisualStyle> style(KyRefVisualStyleService::shownStyle(database));
+        style) {
+        current = style->name();
+    }
     if (const wchar_t* local = kydbXlateReservedString(current, true)) {
         current = local;
     }
@@ -103,13 +91,12 @@ void KyRefVsCurrentCommand::run(KyRefCommandContext& context) {
         return;
     }
     const KyDbObjectId styleId = chosenStyle(context, option);
-    if (!viewportId.isNull()) {
-        KyDbObjectPointer<KyDbViewport> viewport(viewportId, KyDb::kForWrite);
-        if (!viewport || viewport->setVisualStyle(styleId) != Kyro::eOk) {
-            context.fail(L"The current viewport can't take the visual style.");
-        }
+    bool changed = false;
+    if (KyRefVisualStyleService::showStyle(database, styleId, changed) != Kyro::eOk) {
+        context.fail(L"No viewport shows a visual style.");
     }
-    if (service != nullptr) {
-        service->setCurrent(styleId, 0);
+    // Another style redraws what the viewport shows.
+    if (changed) {
+        context.host().regenerateAll();
     }
 }

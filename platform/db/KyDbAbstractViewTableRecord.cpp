@@ -6,6 +6,7 @@
 #include "db/KyDbRecordReference.h"
 #include "db/KyDbStateFiler.h"
 #include "db/KyDbSun.h"
+#include "db/KyDbVisualStyle.h"
 #include "rx/KyRxClass.h"
 
 namespace {
@@ -34,6 +35,10 @@ const KyDbPropertyRow kAbstractViewTableRecordRows[] = {
      KyDbCategory::kGeometry, 7},
     {L"SunId",
      kydbiAccess<&KyDbAbstractViewTableRecord::sunId, &KyDbAbstractViewTableRecord::setSun>()},
+    {L"VisualStyleId",
+     kydbiAccess<&KyDbAbstractViewTableRecord::visualStyleId,
+                 &KyDbAbstractViewTableRecord::setVisualStyle>(),
+     KyDbCategory::kMisc, 3, L"/VisualStyleDictionaryId/Items"},
 };
 
 }  // namespace
@@ -73,18 +78,27 @@ Kyro::ErrorStatus KyDbAbstractViewTableRecord::setLensLength(double length) {
                                                  : Kyro::eInvalidInput;
 }
 
-Kyro::ErrorStatus KyDbAbstractViewTableRecord::setSun(KyDbObjectId sunId) {
-    if (!sunId.isNull()) {
+Kyro::ErrorStatus KyDbAbstractViewTableRecord::setOptionalReference(KyDbObjectId& member,
+                                                                    KyDbObjectId id,
+                                                                    const KyRxClass* objectClass) {
+    if (!id.isNull()) {
         if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
             return status;
         }
-        if (const Kyro::ErrorStatus status =
-                KyDbRecordReference::check(this, sunId, KyDbSun::desc());
+        if (const Kyro::ErrorStatus status = KyDbRecordReference::check(this, id, objectClass);
             status != Kyro::eOk) {
             return status;
         }
     }
-    return setMember(m_sun, sunId);
+    return setMember(member, id);
+}
+
+Kyro::ErrorStatus KyDbAbstractViewTableRecord::setSun(KyDbObjectId sunId) {
+    return setOptionalReference(m_sun, sunId, KyDbSun::desc());
+}
+
+Kyro::ErrorStatus KyDbAbstractViewTableRecord::setVisualStyle(KyDbObjectId visualStyleId) {
+    return setOptionalReference(m_visualStyle, visualStyleId, KyDbVisualStyle::desc());
 }
 
 void KyDbAbstractViewTableRecord::subSaveState(KyDbStateFiler& filer) const {
@@ -93,6 +107,7 @@ void KyDbAbstractViewTableRecord::subSaveState(KyDbStateFiler& filer) const {
     filer.write(m_target);
     filer.write(m_direction);
     filer.write(m_sun);
+    filer.write(m_visualStyle);
     filer.write(m_height);
     filer.write(m_width);
     filer.write(m_lensLength);
@@ -107,6 +122,7 @@ Kyro::ErrorStatus KyDbAbstractViewTableRecord::subRestoreState(KyDbStateFiler& f
     filer.read(m_target);
     filer.read(m_direction);
     filer.read(m_sun);
+    filer.read(m_visualStyle);
     filer.read(m_height);
     filer.read(m_width);
     filer.read(m_lensLength);

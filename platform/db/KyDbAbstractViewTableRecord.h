@@ -1,7 +1,7 @@
 // KyDbAbstractViewTableRecord: what views and viewport configurations share:
 // the centre of the view (in its own plane), its height and width, the
 // target point, the direction from the target to the viewer, the lens length
-// of the camera, and a sun.
+// of the camera, a sun, and the visual style the view is drawn in.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -33,6 +33,9 @@ public:
     // A sun object of the database, or null.
     KyDbObjectId sunId() const { return m_sun; }
     Kyro::ErrorStatus setSun(KyDbObjectId sunId);
+    // A visual style of the database, or null for the default style.
+    KyDbObjectId visualStyleId() const { return m_visualStyle; }
+    Kyro::ErrorStatus setVisualStyle(KyDbObjectId visualStyleId);
 
 protected:
     KyDbAbstractViewTableRecord();
@@ -40,10 +43,15 @@ protected:
     Kyro::ErrorStatus subRestoreState(KyDbStateFiler& filer) override;
 
 private:
+    // Sets an id that may be null, else of `objectClass`.
+    Kyro::ErrorStatus setOptionalReference(KyDbObjectId& member, KyDbObjectId id,
+                                           const KyRxClass* objectClass);
+
     KyGePoint3d m_center;
     KyGePoint3d m_target;
     KyGePoint3d m_direction{0.0, 0.0, 1.0};
     KyDbObjectId m_sun;
+    KyDbObjectId m_visualStyle;
     double m_height = 1.0;
     double m_width = 1.0;
     double m_lensLength = 50.0;

@@ -71,6 +71,7 @@ const KyRefMemberList kViewMembers{
     {"direction", "[0, 0, 1]", true},
     {"lensLength", "50"},
     {"sun"},
+    {"visualStyle"},
 };
 const KyRefMemberList kUcsMembers{
     {"name"},
@@ -88,6 +89,7 @@ const KyRefMemberList kViewportMembers{
     {"direction", "[0, 0, 1]", true},
     {"lensLength", "50"},
     {"sun"},
+    {"visualStyle"},
 };
 const KyRefMemberList kBlockMembers{
     {"name"},
@@ -369,7 +371,25 @@ void writeSun(const KyDbAbstractViewTableRecord& view, KyRefJson& out) {
     }
 }
 
-// What views and viewport configurations share: the view and its sun.
+void readVisualStyle(KyRefReadContext& context, const KyRefJsonNode& node,
+                     KyDbAbstractViewTableRecord& view) {
+    if (const auto style = node.optional("visualStyle")) {
+        KyRefReadContext::check(
+            view.setVisualStyle(context.entry(context.database()->visualStyleDictionaryId(), *style,
+                                              "visual style")),
+            *style, "the name of a visual style");
+    }
+}
+
+void writeVisualStyle(KyRefWriteContext& context, const KyDbAbstractViewTableRecord& view,
+                      KyRefJson& out) {
+    if (!view.visualStyleId().isNull()) {
+        out["visualStyle"] = context.entryKey(view.visualStyleId());
+    }
+}
+
+// What views and viewport configurations share: the view, its sun and its
+// visual style.
 void readViewOf(KyRefReadContext& context, const KyRefJsonNode& node,
                 KyDbAbstractViewTableRecord& view) {
     view.setCenterPoint(pointOr(node, "center", KyGePoint3d()));
@@ -389,9 +409,11 @@ void readViewOf(KyRefReadContext& context, const KyRefJsonNode& node,
         [](const KyRefJsonNode& n) { return n.asNumber(); },
         [&view](double length) { return view.setLensLength(length); });
     readSun(context, node, view);
+    readVisualStyle(context, node, view);
 }
 
-void writeViewOf(const KyDbAbstractViewTableRecord& view, KyRefJson& out) {
+void writeViewOf(KyRefWriteContext& context, const KyDbAbstractViewTableRecord& view,
+                 KyRefJson& out) {
     out["center"] = Forms::point(view.centerPoint());
     out["height"] = view.height();
     out["width"] = view.width();
@@ -399,6 +421,7 @@ void writeViewOf(const KyDbAbstractViewTableRecord& view, KyRefJson& out) {
     out["direction"] = Forms::point(view.viewDirection());
     out["lensLength"] = view.lensLength();
     writeSun(view, out);
+    writeVisualStyle(context, view, out);
 }
 
 void readView(KyRefReadContext& context, const KyRefJsonNode& node, KyDbSymbolTableRecord& record) {
@@ -407,10 +430,10 @@ void readView(KyRefReadContext& context, const KyRefJsonNode& node, KyDbSymbolTa
     readViewOf(context, node, view);
 }
 
-void writeView(KyRefWriteContext&, const KyDbSymbolTableRecord& record, KyRefJson& out) {
+void writeView(KyRefWriteContext& context, const KyDbSymbolTableRecord& record, KyRefJson& out) {
     const auto& view = static_cast<const KyDbViewTableRecord&>(record);
     out["paperSpace"] = view.isPaperspaceView();
-    writeViewOf(view, out);
+    writeViewOf(context, view, out);
 }
 
 void readViewport(KyRefReadContext& context, const KyRefJsonNode& node,
@@ -420,9 +443,10 @@ void readViewport(KyRefReadContext& context, const KyRefJsonNode& node,
     viewport.setViewCenter(pointOr(node, "viewCenter", KyGePoint3d()));
 }
 
-void writeViewport(KyRefWriteContext&, const KyDbSymbolTableRecord& record, KyRefJson& out) {
+void writeViewport(KyRefWriteContext& context, const KyDbSymbolTableRecord& record,
+                   KyRefJson& out) {
     const auto& viewport = static_cast<const KyDbViewportTableRecord&>(record);
-    writeViewOf(viewport, out);
+    writeViewOf(context, viewport, out);
     out["viewCenter"] = Forms::point(viewport.viewCenter());
 }
 

@@ -31,12 +31,15 @@ protected:
     static KyDiCurrencyTracker* tracker() {
         return KnownCollectionRegistry::getCurrencyTracker(L"KYRO_VISUALSTYLE", true);
     }
-    // The item of the drawing's visual style `name` (its global name).
-    KyDiDynamicObject* style(const wchar_t* name) {
+    KyDbObjectId styleId(const wchar_t* name) {
         KyDbObjectPointer<KyDbDictionary> styles(db()->visualStyleDictionaryId(), KyDb::kForRead);
         KyDbObjectId id;
         EXPECT_EQ(styles->getAt(name, id), Kyro::eOk);
-        return createDataItem(KyString(), KyRxValue(id));
+        return id;
+    }
+    // The item of the drawing's visual style `name` (its global name).
+    KyDiDynamicObject* style(const wchar_t* name) {
+        return createDataItem(KyString(), KyRxValue(styleId(name)));
     }
     std::string currentStyle() { return host.visualStyleService()->currentName().utf8(); }
 };
@@ -82,7 +85,7 @@ TEST_F(VisualStyles, TheCurrentStyleIsPolledAndAStyleNoListShowsIsNone) {
     EXPECT_EQ(spy.take(), (Lines{"currentItemChanged Realistic"}));
     pass();
     EXPECT_EQ(spy.take(), Lines{}) << "told once";
-    host.visualStyleService()->setCurrentName(L"Basic");
+    host.visualStyleService()->setCurrent(styleId(L"Basic"), 0);
     pass();
     EXPECT_EQ(spy.take(), (Lines{"currentItemChanged null"})) << "a style for internal use";
     checker.expectInStep();

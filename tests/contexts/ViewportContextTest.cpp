@@ -181,8 +181,13 @@ TEST_F(ViewportContext, AnotherVisualStyleOrResolutionRegeneratesWhichItReportsW
     EXPECT_EQ(read(L"IsVS2dType"), "true (0)");
     type(L"VSCURRENT\nRealistic\n");
     pass();
-    EXPECT_EQ(spy.take(), (Lines{"- 1"})) << "whatever it shows may have changed";
+    EXPECT_EQ(spy.take(), (Lines{"- 3"}))
+        << "the viewport object took the style, and whatever it shows may have changed";
     EXPECT_EQ(read(L"IsVS2dType"), "false (0)");
+    type(L"U\n");
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"- 3"})) << "undone in the viewport object";
+    EXPECT_EQ(read(L"IsVS2dType"), "true (0)");
     type(L"VIEWRES\n2000\n");
     pass();
     EXPECT_EQ(spy.take(), (Lines{"- 1"}));

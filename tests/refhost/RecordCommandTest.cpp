@@ -333,7 +333,8 @@ TEST_F(RecordCommandTest, ARenamedCurrentUcsOrLayerIsToldAndTheHostKeepsItsCurre
                      "refreshNeeded false"}));
 
     runRecord(L"RECORD\n_New\nVISUALSTYLE\nMine\n");
-    host->visualStyleService()->setCurrentName(L"Mine");
+    run(L"VSCURRENT\n_Other\nMine\n");
+    spy.take();
     expectRefused(L"RECORD\n_Rename\nVISUALSTYLE\nMine\nYours\n",
                   "Cannot rename the current visual style \"Mine\".");
     expectRefused(L"RECORD\n_Erase\nVISUALSTYLE\nMine\n",

@@ -1,14 +1,17 @@
 // VSCURRENT as the data item layer's visual style tracker sends it: two
 // cancels, the echo switch, then a standard style's word (its name without
-// blanks) or Other and a style's name. The current viewport shows the style:
-// the host's visual style service, and in a layout the viewport entity.
+// blanks) or Other and a style's name. The object holding the view shown keeps
+// the style: each drawing and each viewport has its own, and U takes it back.
 #include <string>
 
 #include "DrawingContent.h"
+#include "KyRefLayoutViewports.h"
 #include "KyRefNamedItem.h"
 #include "RefHostTestSupport.h"
 #include "base/KyRxResourceInstance.h"
 #include "db/KyDbViewport.h"
+#include "db/KyDbViewportTableRecord.h"
+#include "io/KyRefDrawingWriter.h"
 
 namespace refhost {
 namespace {
@@ -106,6 +109,36 @@ TEST_F(VsCurrentCommandTest, InALayoutTheCurrentViewportEntityTakesTheStyleUntil
     run(L"U\n");
     EXPECT_TRUE(
         KyDbObjectPointer<KyDbViewport>(viewport, KyDb::kForRead)->visualStyleId().isNull());
+    EXPECT_EQ(currentStyle(), "2dWireframe");
+
+    runVsCurrent(L"_Hidden\n");
+    ASSERT_EQ(host->leaveViewport(), Kyro::eOk);
+    EXPECT_EQ(currentStyle(), "2dWireframe") << "the paper shows its own";
+    ASSERT_EQ(host->enterViewport(viewport), Kyro::eOk);
+    EXPECT_EQ(currentStyle(), "Hidden");
+}
+
+TEST_F(VsCurrentCommandTest, EachDrawingKeepsItsStyleInItsActiveViewThroughUndoAndSaving) {
+    runVsCurrent(L"_other\nModeling\n");
+    const KyDbObjectId active = KyRefLayoutViewports::activeRecord(db());
+    ASSERT_FALSE(active.isNull()) << "the first change of view adds the configuration";
+    EXPECT_EQ(KyDbObjectPointer<KyDbViewportTableRecord>(active, KyDb::kForRead)->visualStyleId(),
+              style(L"Modeling"));
+
+    KyRefDocument* first = host->documents().current();
+    host->documents().newDocument();
+    EXPECT_EQ(currentStyle(), "2dWireframe") << "a new drawing shows the default";
+    ASSERT_TRUE(host->documents().makeCurrent(first));
+    EXPECT_EQ(currentStyle(), "Modeling");
+
+    runVsCurrent(L"_Realistic\n");
+    run(L"U\n");
+    EXPECT_EQ(currentStyle(), "Modeling");
+    run(L"REDO\n");
+    EXPECT_EQ(currentStyle(), "Realistic");
+
+    const KyRefJson saved = KyRefDrawingWriter::toJson(db());
+    EXPECT_EQ(saved["viewports"][0]["visualStyle"], "Realistic");
 }
 
 TEST_F(VsCurrentCommandTest, TheHostsSecondLanguageTakesLocalWordsWithoutBlanks) {

@@ -1,5 +1,6 @@
-// The view a viewport shows in drawing files: the target, direction and lens
-// length of viewport entities, viewport configurations and views read into
+// The view a viewport shows in drawing files: the target, direction, lens
+// length and visual style of viewport entities, viewport configurations and
+// views read into
 // their objects and written back, and values the drawing can't take refused
 // at their own path.
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 #include "db/KyDbViewTableRecord.h"
 #include "db/KyDbViewport.h"
 #include "db/KyDbViewportTableRecord.h"
+#include "db/KyDbVisualStyle.h"
 
 using namespace drawingio;
 
@@ -59,15 +61,16 @@ std::string errorOf(const KyRefJson& document) {
 }
 
 TEST(DrawingViews, TheViewMembersAreReadIntoTheirObjectsAndWrittenBackAsTheyWere) {
-    const KyRefJson original =
-        withViews({{"target", {5, 5, 0}}, {"direction", {1, -1, 1}}, {"lensLength", 35}},
-                  {{"center", {50, 30}},
-                   {"height", 90},
-                   {"width", 120},
-                   {"target", {50, 30, 0}},
-                   {"direction", {0, -1, 1}},
-                   {"lensLength", 24.5}},
-                  {{"center", {2, 3}}, {"height", 4}, {"lensLength", 85}});
+    const KyRefJson original = withViews(
+        {{"target", {5, 5, 0}}, {"direction", {1, -1, 1}}, {"lensLength", 35}},
+        {{"center", {50, 30}},
+         {"height", 90},
+         {"width", 120},
+         {"target", {50, 30, 0}},
+         {"direction", {0, -1, 1}},
+         {"lensLength", 24.5},
+         {"visualStyle", "Conceptual"}},
+        {{"center", {2, 3}}, {"height", 4}, {"lensLength", 85}, {"visualStyle", "Hidden"}});
     const Reading reading = read(original);
     ASSERT_NE(reading.db, nullptr) << reading.error;
     KyDbDatabase* db = reading.db.get();
@@ -84,8 +87,13 @@ TEST(DrawingViews, TheViewMembersAreReadIntoTheirObjectsAndWrittenBackAsTheyWere
         EXPECT_EQ(active->target(), KyGePoint3d(50, 30, 0));
         EXPECT_EQ(active->viewDirection(), KyGePoint3d(0, -1, 1));
         EXPECT_EQ(active->lensLength(), 24.5);
+        KyDbObjectPointer<KyDbVisualStyle> shown(active->visualStyleId(), KyDb::kForRead);
+        ASSERT_TRUE(shown);
+        EXPECT_STREQ(shown->name(), L"Conceptual");
         KyDbObjectPointer<KyDbViewTableRecord> view(idOf(db, 0x42), KyDb::kForRead);
         EXPECT_EQ(view->lensLength(), 85.0);
+        EXPECT_FALSE(view->visualStyleId().isNull());
+        EXPECT_TRUE(paper->visualStyleId().isNull()) << "the default style";
     }
     const KyRefJson saved = save(db);
     EXPECT_TRUE(unordered(saved) == unordered(original))
@@ -104,6 +112,9 @@ TEST(DrawingViews, AViewTheDrawingCantTakeIsRefusedAtItsPath) {
               "as a value the drawing can't take");
     EXPECT_EQ(errorOf(withViews({}, {}, {{"lensLength", "long"}})),
               "views[0].lensLength: expected a number, found a string");
+    EXPECT_EQ(errorOf(withViews({}, {{"visualStyle", "Moonlight"}}, {})),
+              "viewports[0].visualStyle: expected the name of a visual style, found \"Moonlight\", "
+              "which the drawing does not have");
 }
 
 }  // namespace
