@@ -126,22 +126,28 @@ int KyDiViewportContext::subRefresh() {
     if (KyDiHostAccess::currentDocument() == kKyDiNoDocument) {
         return 0;
     }
-    if (updateBinding() == kDocumentMoved) {
+    const bool moved = updateBinding() == kDocumentMoved;
+    // Taken before anyone is told: what a reactor queues while it is told
+    // waits for the next pass.
+    const unsigned unnamed = m_changeMask;
+    const unsigned named = m_namedMask;
+    const std::vector<KyString> names = std::move(m_changedProperties);
+    m_changedProperties.clear();
+    m_changeMask = 0;
+    m_namedMask = 0;
+    if (moved) {
         notifyChanged(this, nullptr, nullptr);
-    } else if (m_changeMask != 0) {
-        m_reportedMask = m_changeMask;
-        if (m_changedProperties.empty()) {
-            notifyChanged(this, nullptr, &m_reportedMask);
-        } else {
-            // A copy: a reactor may queue further names while it is told.
-            const std::vector<KyString> names = m_changedProperties;
-            for (const KyString& name : names) {
-                notifyChanged(this, name.kwszPtr(), &m_reportedMask);
-            }
+    } else if ((unnamed & kViewportChanged) != 0 || (unnamed != 0 && names.empty())) {
+        // The viewport object changed, or the view was drawn anew with no
+        // name to tell: whatever the context shows may differ.
+        m_reportedMask = unnamed | named;
+        notifyChanged(this, nullptr, &m_reportedMask);
+    } else if (!names.empty()) {
+        m_reportedMask = unnamed | named;
+        for (const KyString& name : names) {
+            notifyChanged(this, name.kwszPtr(), &m_reportedMask);
         }
     }
-    m_changeMask = 0;
-    m_changedProperties.clear();
     return 0;
 }
 
@@ -150,7 +156,7 @@ void KyDiViewportContext::noteChangedProperty(const wchar_t* property) {
         m_changedProperties.end()) {
         m_changedProperties.emplace_back(property);
     }
-    m_changeMask = kViewInvalidated | kViewportChanged;
+    m_namedMask = kViewInvalidated | kViewportChanged;
 }
 
 void KyDiViewportContext::objectClosed(KyDbObjectId /*id*/) {

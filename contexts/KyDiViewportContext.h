@@ -53,7 +53,8 @@ public:
     // State read and written by the properties.
     int toneOperatorType() const { return m_toneOperatorType; }
     void setToneOperatorType(int type) { m_toneOperatorType = type; }
-    // Queues a report of `property` with the binding mask.
+    // Queues a report of `property` with the binding mask; a pass in which
+    // the viewport object changed as well reports without names.
     void noteChangedProperty(const wchar_t* property);
 
 protected:
@@ -74,7 +75,10 @@ private:
     // leaving memory.
     void unbind(const KyDbObject* leaving);
 
+    // What changed since the last report: unnamed (the view, the viewport
+    // object, the binding), and what the queued names carry.
     unsigned m_changeMask = 0;
+    unsigned m_namedMask = 0;
     unsigned m_reportedMask = 0;
     KyDbObjectId m_viewportId;
     KyDiDocument m_document = kKyDiNoDocument;

@@ -47,6 +47,9 @@ public:
         std::uint64_t threeD = 0;
         // Members the reader does not model, as the file had them; null if none.
         std::unique_ptr<KyRefJson> unknown;
+        // Of the objects inside a member's value, the members with a default
+        // they left out, with that default, in the value's shape; null if none.
+        std::unique_ptr<KyRefJson> leftOut;
         // Members that name a record or an entry in another case than the
         // name has ("layer": "WALLS" for the layer "Walls"), as the file had
         // them; null if none. The writer gives them back while they name the
@@ -57,7 +60,8 @@ public:
         std::vector<Reference> references;
 
         bool holdsAnything() const {
-            return present != 0 || threeD != 0 || unknown || spelled || !references.empty();
+            return present != 0 || threeD != 0 || unknown || leftOut || spelled ||
+                   !references.empty();
         }
     };
 

@@ -82,7 +82,7 @@ const KyRefMemberList kInsertMembers{kCommon,
                                       {"position", nullptr, true},
                                       {"scale", "[1, 1, 1]"},
                                       {"rotation", "0"},
-                                      {"attributes", "[]", false, "tag text"},
+                                      {"attributes", "[]", false, "tag text=\"\""},
                                       {"dynamic", "false"}}};
 const KyRefMemberList kDimensionMembers{kCommon,
                                         {{"dimStyle", "\"Standard\""},

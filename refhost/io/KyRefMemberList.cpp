@@ -1,6 +1,8 @@
 #include "KyRefMemberList.h"
 
 #include <cctype>
+#include <memory>
+#include <string>
 
 namespace {
 
@@ -75,20 +77,45 @@ bool sameButCase(const KyRefJson& a, const KyRefJson& b) {
     return a == b;
 }
 
-// True when `name` is one of the blank-separated words of `names`.
-bool isListed(const char* names, std::string_view name) {
+// Calls `visit(name, defaultJson)` for each blank-separated word of `names`:
+// a member's name, or `name=default` for a member with a default (JSON text
+// without blanks); `defaultJson` is empty for a member without one.
+template <typename Visit>
+void forEachListed(const char* names, Visit visit) {
     std::string_view rest(names);
     while (!rest.empty()) {
         const std::size_t blank = rest.find(' ');
-        if (rest.substr(0, blank) == name) {
-            return true;
-        }
+        const std::string_view word = rest.substr(0, blank);
+        const std::size_t equals = word.find('=');
+        visit(word.substr(0, equals),
+              equals == std::string_view::npos ? std::string_view() : word.substr(equals + 1));
         if (blank == std::string_view::npos) {
             break;
         }
         rest.remove_prefix(blank + 1);
     }
-    return false;
+}
+
+// True when `name` is one of the members `names` lists.
+bool isListed(const char* names, std::string_view name) {
+    bool listed = false;
+    forEachListed(names, [&](std::string_view listedName, std::string_view) {
+        listed = listed || listedName == name;
+    });
+    return listed;
+}
+
+// The members with a default that `nested` lists and `object` leaves out,
+// with their defaults; null when none.
+KyRefJson leftOutOf(const KyRefJson& object, const char* nested) {
+    KyRefJson leftOut;
+    forEachListed(nested, [&](std::string_view name, std::string_view defaultJson) {
+        const std::string key(name);
+        if (!defaultJson.empty() && !object.contains(key)) {
+            leftOut[key] = KyRefJson::parse(defaultJson);
+        }
+    });
+    return leftOut;
 }
 
 // The members of `object` that `nested` does not list; null when none.
@@ -102,12 +129,13 @@ KyRefJson unlistedOf(const KyRefJson& object, const char* nested) {
     return unlisted;
 }
 
-// The unknown members inside a member's value, in the value's shape: an
-// object of them, or an array with one object for each item. Null when there
-// are none.
-KyRefJson nestedUnknown(const KyRefJson& value, const char* nested) {
+// What `part` finds in each object inside a member's value, in the value's
+// shape: an object, or an array with one object for each item. Null when it
+// finds nothing.
+template <typename Part>
+KyRefJson nestedPart(const KyRefJson& value, const char* nested, Part part) {
     if (value.is_object()) {
-        return unlistedOf(value, nested);
+        return part(value, nested);
     }
     if (!value.is_array()) {
         return KyRefJson();
@@ -115,11 +143,43 @@ KyRefJson nestedUnknown(const KyRefJson& value, const char* nested) {
     KyRefJson items = KyRefJson::array();
     bool any = false;
     for (const KyRefJson& item : value) {
-        KyRefJson unlisted = item.is_object() ? unlistedOf(item, nested) : KyRefJson();
-        any = any || !unlisted.is_null();
-        items.push_back(unlisted.is_null() ? KyRefJson::object() : std::move(unlisted));
+        KyRefJson found = item.is_object() ? part(item, nested) : KyRefJson();
+        any = any || !found.is_null();
+        items.push_back(found.is_null() ? KyRefJson::object() : std::move(found));
     }
     return any ? items : KyRefJson();
+}
+
+// Puts `found`, when it isn't null, into `*holder` (made when null) as `name`.
+void keepPart(std::unique_ptr<KyRefJson>& holder, const std::string& name, KyRefJson found) {
+    if (found.is_null()) {
+        return;
+    }
+    if (!holder) {
+        holder = std::make_unique<KyRefJson>(KyRefJson::object());
+    }
+    (*holder)[name] = std::move(found);
+}
+
+// Takes out of `out` the members `leftOut` names while they hold the default
+// it gives them: objects met in both member by member, arrays of the same
+// length item by item.
+void dropLeftOut(KyRefJson& out, const KyRefJson& leftOut) {
+    if (out.is_array() && leftOut.is_array() && out.size() == leftOut.size()) {
+        for (std::size_t i = 0; i < out.size(); ++i) {
+            dropLeftOut(out[i], leftOut[i]);
+        }
+        return;
+    }
+    if (!out.is_object() || !leftOut.is_object()) {
+        return;
+    }
+    for (auto it = leftOut.begin(); it != leftOut.end(); ++it) {
+        const auto found = out.find(it.key());
+        if (found != out.end() && sameValue(*found, *it, false)) {
+            out.erase(found);
+        }
+    }
 }
 
 }  // namespace
@@ -170,13 +230,8 @@ KyRefDrawingExtras::Form KyRefMemberList::formOf(
                 form.threeD |= std::uint64_t{1} << index;
             }
             if (member.nested != nullptr) {
-                KyRefJson unknown = nestedUnknown(*it, member.nested);
-                if (!unknown.is_null()) {
-                    if (!form.unknown) {
-                        form.unknown = std::make_unique<KyRefJson>(KyRefJson::object());
-                    }
-                    (*form.unknown)[name] = std::move(unknown);
-                }
+                keepPart(form.unknown, name, nestedPart(*it, member.nested, &unlistedOf));
+                keepPart(form.leftOut, name, nestedPart(*it, member.nested, &leftOutOf));
             }
             continue;
         }
@@ -212,6 +267,13 @@ void KyRefMemberList::shape(KyRefJson& out, const KyRefDrawingExtras::Form* form
         if (entry.member.point && (threeD & bit) == 0 && found->is_array() && found->size() == 3 &&
             (*found)[2].is_number() && (*found)[2].get<double>() == 0.0) {
             found->erase(2);
+        }
+    }
+    if (form != nullptr && form->leftOut) {
+        for (auto it = form->leftOut->begin(); it != form->leftOut->end(); ++it) {
+            if (const auto found = out.find(it.key()); found != out.end()) {
+                dropLeftOut(*found, *it);
+            }
         }
     }
     if (form != nullptr && form->unknown) {

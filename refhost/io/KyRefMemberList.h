@@ -3,8 +3,9 @@
 // are points. The reader asks it which members a file gave and which it does
 // not know (KyRefDrawingExtras::Form); the writer asks it to give the written
 // JSON the shape the file had: members the file left out stay out while they
-// hold their default, points the file gave as [x, y] are written so again,
-// and unknown members come back.
+// hold their default (also inside the objects of a member's value), points
+// the file gave as [x, y] are written so again, and unknown members come
+// back.
 #pragma once
 
 #include <initializer_list>
@@ -21,7 +22,9 @@ struct KyRefMember {
     const char* defaultJson = nullptr;
     bool point = false;
     // For an object value, or an array of objects: the members each object
-    // may have, separated by blanks. Others are kept as unknown members.
+    // may have, separated by blanks. Others are kept as unknown members. A
+    // member written `name=default` (JSON without blanks) has a default: an
+    // object that left it out gets it back without it while it holds it.
     const char* nested = nullptr;
 };
 

@@ -173,6 +173,17 @@ TEST_F(ViewportContext, ReportsUnitVariablesByNameTheViewportObjectByMaskAndNoth
     pass();
     EXPECT_EQ(spy.take(), (Lines{"ViewResolution 3"}));
     EXPECT_EQ(read(L"ViewResolution"), "500 (0)");
+
+    // A name and a change of the viewport object in one pass: the name does
+    // not cover what the object changed, so the report names nothing.
+    ASSERT_EQ(property(L"ViewResolution")->setValue(context, KyRxValue(600)), Kyro::eOk);
+    {
+        KyAxDocLock lock(host.documents().currentDatabase());
+        KyDbObjectPointer<KyDbViewportTableRecord> active(activeViewport(), KyDb::kForWrite);
+        active->setViewCenter(KyGePoint3d(6.0, 5.0, 0.0));
+    }
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"- 3"}));
 }
 
 TEST_F(ViewportContext, AnotherVisualStyleOrResolutionRegeneratesWhichItReportsWithoutNames) {
