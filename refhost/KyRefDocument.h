@@ -1,12 +1,13 @@
 // KyRefDocument: one open drawing of the reference host: its database, the
 // name it is shown under, the file it came from, and what the host keeps of
 // it between commands (undo marks, its long transaction, whether it changed
-// since it was read or saved).
+// since it was read or saved, what was told of its layouts' plot settings).
 #pragma once
 
 #include <memory>
 #include <vector>
 
+#include "KyRefPlotSettingsWatch.h"
 #include "base/KyString.h"
 #include "db/KyDbObjectId.h"
 #include "kydi/KyDiTypes.h"
@@ -40,6 +41,8 @@ public:
     bool isModified() const { return m_modified; }
     void setModified(bool modified) { m_modified = modified; }
 
+    KyRefPlotSettingsWatch& plotSettings() { return m_plotSettings; }
+
     KyDbObjectId longTransactionId() const { return m_longTransaction; }
     void setLongTransactionId(KyDbObjectId id) { m_longTransaction = id; }
 
@@ -69,6 +72,7 @@ private:
     KyString m_name;
     KyString m_path;
     KyDbObjectId m_longTransaction;
+    KyRefPlotSettingsWatch m_plotSettings;
     std::vector<int> m_undoMarks;
     int m_redoSeen = 0;
     bool m_rolledBackFirst = false;

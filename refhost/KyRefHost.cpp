@@ -165,6 +165,9 @@ void KyRefHost::raiseVariableChanges(const std::vector<KyString>& names) {
               name.compareNoCase(L"UCSXDIR") == 0 || name.compareNoCase(L"UCSYDIR") == 0;
         resolution = resolution || name.compareNoCase(L"VIEWRES") == 0;
     }
+    if (!isGatheringChanges() && raisePlotSettingsChanges()) {
+        layout = true;
+    }
     if (layout) {
         m_events.raiseLayoutChanged();
     }
@@ -193,6 +196,29 @@ void KyRefHost::drawingVariableChanged(KyRefDocument&, const wchar_t*) {
     }
     m_headerWrite = false;
     raiseVariableChanges(endChangeReport());
+}
+
+void KyRefHost::plotSettingsModified() {
+    if (!isGatheringChanges() && raisePlotSettingsChanges()) {
+        m_events.raiseLayoutChanged();
+    }
+}
+
+bool KyRefHost::raisePlotSettingsChanges() {
+    std::vector<KyString> layouts;
+    for (int index = 0; index < m_documents->count(); ++index) {
+        for (KyString& name : m_documents->at(index)->plotSettings().take()) {
+            layouts.push_back(std::move(name));
+        }
+    }
+    if (layouts.empty()) {
+        return false;
+    }
+    m_events.raisePlotSettingsChanged();
+    for (const KyString& name : layouts) {
+        m_events.raisePlotSettingsChangedForLayout(name);
+    }
+    return true;
 }
 
 void KyRefHost::documentClosing(KyRefDocument& document) {
