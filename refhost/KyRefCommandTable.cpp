@@ -10,6 +10,7 @@
 #include "KyRefLayerCommand.h"
 #include "KyRefLineCommand.h"
 #include "KyRefOptChPropCommand.h"
+#include "KyRefPageSetupCommand.h"
 #include "KyRefPointCommand.h"
 #include "KyRefRecordCommand.h"
 #include "KyRefRedoCommand.h"
@@ -33,6 +34,7 @@ const KyRefCommandRow kRows[] = {
     {L"-DIMSTYLE", L"-BEMSTIL", 0, &Table::make<KyRefDimStyleCommand>},
     {L"-INSERT", L"-EINFUEGE", 0, &Table::make<KyRefInsertCommand>},
     {L"-LAYER", L"-EBENE", kCommandTransparent, &Table::make<KyRefLayerCommand>},
+    {L"-PAGESETUP", L"-SEITENEINR", 0, &Table::make<KyRefPageSetupCommand>},
     {L"-XATTACH", L"-XZUORDNEN", 0, &Table::make<KyRefXAttachCommand>},
     {L"BATCH", L"STAPEL", 0, &Table::make<KyRefBatchCommand>},
     {L"CHPROP", L"EIGAENDR", 0, &Table::make<KyRefChPropCommand>},
