@@ -1,6 +1,8 @@
 #include "KyRefCommandTable.h"
 
 #include "KyRefBatchCommand.h"
+#include "KyRefBlockCloseCommand.h"
+#include "KyRefBlockEditCommand.h"
 #include "KyRefChPropCommand.h"
 #include "KyRefCircleCommand.h"
 #include "KyRefDimStyleCommand.h"
@@ -37,6 +39,8 @@ const KyRefCommandRow kRows[] = {
     {L"-PAGESETUP", L"-SEITENEINR", 0, &Table::make<KyRefPageSetupCommand>},
     {L"-XATTACH", L"-XZUORDNEN", 0, &Table::make<KyRefXAttachCommand>},
     {L"BATCH", L"STAPEL", 0, &Table::make<KyRefBatchCommand>},
+    {L"BCLOSE", L"BSCHLIESSEN", 0, &Table::make<KyRefBlockCloseCommand>},
+    {L"BEDIT", L"BBEARB", 0, &Table::make<KyRefBlockEditCommand>},
     {L"CHPROP", L"EIGAENDR", 0, &Table::make<KyRefChPropCommand>},
     {L"CIRCLE", L"KREIS", 0, &Table::make<KyRefCircleCommand>},
     {L"ERASE", L"LOESCHEN", 0, &Table::make<KyRefEraseCommand>},

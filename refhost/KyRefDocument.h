@@ -1,7 +1,8 @@
 // KyRefDocument: one open drawing of the reference host: its database, the
 // name it is shown under, the file it came from, and what the host keeps of
 // it between commands (undo marks, its long transaction, whether it changed
-// since it was read or saved, what was told of its layouts' plot settings).
+// since it was read or saved, the block open in its block editor, what was
+// told of its layouts' plot settings).
 #pragma once
 
 #include <memory>
@@ -41,6 +42,10 @@ public:
     bool isModified() const { return m_modified; }
     void setModified(bool modified) { m_modified = modified; }
 
+    // The block open in the block editor; null while none is.
+    KyDbObjectId editedBlockId() const { return m_editedBlock; }
+    void setEditedBlockId(KyDbObjectId id) { m_editedBlock = id; }
+
     KyRefPlotSettingsWatch& plotSettings() { return m_plotSettings; }
 
     KyDbObjectId longTransactionId() const { return m_longTransaction; }
@@ -72,6 +77,7 @@ private:
     KyString m_name;
     KyString m_path;
     KyDbObjectId m_longTransaction;
+    KyDbObjectId m_editedBlock;
     KyRefPlotSettingsWatch m_plotSettings;
     std::vector<int> m_undoMarks;
     int m_redoSeen = 0;

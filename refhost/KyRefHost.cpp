@@ -33,7 +33,7 @@ KyRefHost::KyRefHost(const KyRefHostOptions& options)
       m_color(makeIf<KyRefColorService>(options.colorService)),
       m_scaleList(makeIf<KyRefScaleListService>(options.scaleListService)),
       m_image(makeIf<KyRefImageService>(options.imageService)),
-      m_recentBlock(makeIf<KyRefRecentBlockService>(options.recentBlockService)),
+      m_recentBlock(makeIf<KyRefRecentBlockService>(options.recentBlockService, *this)),
       m_counting(makeIf<KyRefCountingService>(options.countingService)),
       m_externalReferences(std::make_unique<KyRefExternalReferenceService>(*this)),
       m_variables(std::make_unique<KyRefVariablesDictionary>(*this)) {
@@ -235,4 +235,5 @@ void KyRefHost::currentDocumentChanged() {
     if (m_editor != nullptr && m_editor->interpreter().isWaiting()) {
         m_editor->interpreter().dropWaitingCommand();
     }
+    m_blockEditor.currentDocumentChanged();
 }

@@ -35,6 +35,7 @@
 #include <memory>
 #include <vector>
 
+#include "KyRefBlockEditor.h"
 #include "KyRefColorService.h"
 #include "KyRefCommandLine.h"
 #include "KyRefCountingService.h"
@@ -105,6 +106,8 @@ public:
     KyRefManualClock* clock() { return m_clock.get(); }
     // Where the files that commands name are found.
     const KyRefFileFolder& fileFolder() const { return m_fileFolder; }
+    KyRefBlockEditor& blockEditor() { return m_blockEditor; }
+    const KyRefBlockEditor& blockEditor() const { return m_blockEditor; }
 
     // The host is idle: it runs the queued command text.
     void idle();
@@ -162,6 +165,7 @@ private:
     KyRefSysVarStore m_sysVars;
     std::unique_ptr<KyRefManualClock> m_clock;
     KyRefFileFolder m_fileFolder;
+    KyRefBlockEditor m_blockEditor{*this};
     std::unique_ptr<KyRefDocumentManager> m_documents;
     std::unique_ptr<KyRefEditor> m_editor;
     std::unique_ptr<KyRefViewportService> m_viewport;
