@@ -2,7 +2,8 @@
 // name it is shown under, the file it came from, and what the host keeps of
 // it between commands (undo marks, its long transaction, whether it changed
 // since it was read or saved, the block open in its block editor, what was
-// told of its layouts' plot settings).
+// told of its layouts' plot settings). A document opened read-only refuses
+// its lock (KyRefHostApplicationServices): nothing writes to its drawing.
 #pragma once
 
 #include <memory>
@@ -41,6 +42,9 @@ public:
     // True when the drawing changed since it was made, read or saved.
     bool isModified() const { return m_modified; }
     void setModified(bool modified) { m_modified = modified; }
+
+    bool isReadOnly() const { return m_readOnly; }
+    void setReadOnly(bool readOnly);
 
     // The block open in the block editor; null while none is.
     KyDbObjectId editedBlockId() const { return m_editedBlock; }
@@ -83,4 +87,5 @@ private:
     int m_redoSeen = 0;
     bool m_rolledBackFirst = false;
     bool m_modified = false;
+    bool m_readOnly = false;
 };

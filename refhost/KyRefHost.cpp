@@ -1,5 +1,6 @@
 #include "KyRefHost.h"
 
+#include "KyRefHostApplicationServices.h"
 #include "KyRefLayoutViewports.h"
 #include "KyRefManualClock.h"
 #include "KyRefSysVarTable.h"
@@ -38,6 +39,7 @@ KyRefHost::KyRefHost(const KyRefHostOptions& options)
       m_externalReferences(std::make_unique<KyRefExternalReferenceService>(*this)),
       m_variables(std::make_unique<KyRefVariablesDictionary>(*this)) {
     KyRxVariablesDictionary::install(m_variables.get());
+    KyRefHostApplicationServices::install();
 }
 
 KyRefHost::~KyRefHost() {
