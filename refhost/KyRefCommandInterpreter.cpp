@@ -38,6 +38,17 @@ bool isBlankText(const std::wstring& text) {
     return text.find_first_not_of(L" \t\r\n") == std::wstring::npos;
 }
 
+// True when a command of `flags` would change `document`, which the host
+// holds read-only: such a command is refused before it runs.
+bool refusedAsReadOnly(const KyRefDocument* document, unsigned flags) {
+    return document != nullptr && document->isReadOnly() && (flags & kCommandKeepsDrawing) == 0;
+}
+
+KyString readOnlyLine(const KyRefDocument& document) {
+    return KyString::formatted(L"The drawing \"%ls\" is open read-only and can't be changed.",
+                               document.name().kwszPtr());
+}
+
 }  // namespace
 
 KyRefCommandInterpreter::KyRefCommandInterpreter(KyRefHost& host, KyRefCommandLine& line)
@@ -155,7 +166,7 @@ bool KyRefCommandInterpreter::resolve(const KyRefCommandWord& word, Resolved& re
         // A session variable can be set with no drawing open.
         resolved.flags = kCommandTransparent;
         if (!variable->isDrawing()) {
-            resolved.flags |= kCommandWithoutDocument;
+            resolved.flags |= kCommandWithoutDocument | kCommandKeepsDrawing;
         }
         return true;
     }
@@ -178,6 +189,10 @@ KyRefCommandInterpreter::Outcome KyRefCommandInterpreter::runTopLevel(const Reso
     }
     if (document == nullptr && (resolved.flags & kCommandWithoutDocument) == 0) {
         m_line.writeLine(L"No drawing is open.");
+        return Outcome::kFailed;
+    }
+    if (refusedAsReadOnly(document, resolved.flags)) {
+        m_line.writeLine(readOnlyLine(*document));
         return Outcome::kFailed;
     }
     const std::unique_ptr<KyRefCommand> command = make(resolved);
@@ -274,6 +289,10 @@ bool KyRefCommandInterpreter::runTransparent(const KyString& typed, KyRefCommand
     }
     if ((resolved.flags & kCommandTransparent) == 0) {
         m_line.writeLine(L"** That command may not be invoked transparently **");
+        return true;
+    }
+    if (refusedAsReadOnly(outer.document(), resolved.flags)) {
+        m_line.writeLine(readOnlyLine(*outer.document()));
         return true;
     }
     const std::unique_ptr<KyRefCommand> command = make(resolved);

@@ -8,7 +8,10 @@
 // only the variable changes and refreshNeeded.
 //
 // A command word is a command of KyRefCommandTable or the name of a system
-// variable (which sets it). An empty line at the command prompt does nothing.
+// variable (which sets it). In a drawing open read-only, a command that may
+// change the drawing (one without kCommandKeepsDrawing, or a drawing
+// variable) is refused with an error line before it starts: it raises
+// nothing. An empty line at the command prompt does nothing.
 // A command whose answers haven't all been typed waits at its prompt: its
 // changes are taken back for now, and once more input comes it runs again from
 // its start over all of its input, the part shown already not shown twice.

@@ -1,6 +1,8 @@
 #include "KyRefCommandTable.h"
 
 #include "KyRefBatchCommand.h"
+#include "KyRefBlockCloseCommand.h"
+#include "KyRefBlockEditCommand.h"
 #include "KyRefChPropCommand.h"
 #include "KyRefCircleCommand.h"
 #include "KyRefDimStyleCommand.h"
@@ -10,6 +12,7 @@
 #include "KyRefLayerCommand.h"
 #include "KyRefLineCommand.h"
 #include "KyRefOptChPropCommand.h"
+#include "KyRefPageSetupCommand.h"
 #include "KyRefPointCommand.h"
 #include "KyRefRecordCommand.h"
 #include "KyRefRedoCommand.h"
@@ -33,8 +36,11 @@ const KyRefCommandRow kRows[] = {
     {L"-DIMSTYLE", L"-BEMSTIL", 0, &Table::make<KyRefDimStyleCommand>},
     {L"-INSERT", L"-EINFUEGE", 0, &Table::make<KyRefInsertCommand>},
     {L"-LAYER", L"-EBENE", kCommandTransparent, &Table::make<KyRefLayerCommand>},
+    {L"-PAGESETUP", L"-SEITENEINR", 0, &Table::make<KyRefPageSetupCommand>},
     {L"-XATTACH", L"-XZUORDNEN", 0, &Table::make<KyRefXAttachCommand>},
-    {L"BATCH", L"STAPEL", 0, &Table::make<KyRefBatchCommand>},
+    {L"BATCH", L"STAPEL", kCommandKeepsDrawing, &Table::make<KyRefBatchCommand>},
+    {L"BCLOSE", L"BSCHLIESSEN", kCommandKeepsDrawing, &Table::make<KyRefBlockCloseCommand>},
+    {L"BEDIT", L"BBEARB", kCommandKeepsDrawing, &Table::make<KyRefBlockEditCommand>},
     {L"CHPROP", L"EIGAENDR", 0, &Table::make<KyRefChPropCommand>},
     {L"CIRCLE", L"KREIS", 0, &Table::make<KyRefCircleCommand>},
     {L"ERASE", L"LOESCHEN", 0, &Table::make<KyRefEraseCommand>},
@@ -43,9 +49,9 @@ const KyRefCommandRow kRows[] = {
     {L"POINT", L"PUNKT", 0, &Table::make<KyRefPointCommand>},
     {L"RECORD", L"EINTRAG", 0, &Table::make<KyRefRecordCommand>},
     {L"REDO", L"WIEDERHERSTELLEN", 0, &Table::make<KyRefRedoCommand>},
-    {L"REPAINT", L"AUFFRISCHEN", 0, &Table::make<KyRefRepaintCommand>},
-    {L"SELECT", L"WAEHLEN", 0, &Table::make<KyRefSelectCommand>},
-    {L"SETVAR", L"VARSETZEN", kCommandTransparent | kCommandWithoutDocument,
+    {L"REPAINT", L"AUFFRISCHEN", kCommandKeepsDrawing, &Table::make<KyRefRepaintCommand>},
+    {L"SELECT", L"WAEHLEN", kCommandKeepsDrawing, &Table::make<KyRefSelectCommand>},
+    {L"SETVAR", L"VARSETZEN", kCommandTransparent | kCommandWithoutDocument | kCommandKeepsDrawing,
      &Table::make<KyRefSetVarCommand>},
     {L"TEXT", L"TEXT", 0, &Table::make<KyRefTextCommand>},
     {L"U", L"Z", 0, &Table::make<KyRefUCommand>},

@@ -16,6 +16,9 @@ enum KyRefCommandFlag : unsigned {
     kCommandTransparent = 0x1,
     // The command runs also when no document is open (no lock, no undo group).
     kCommandWithoutDocument = 0x2,
+    // The command never changes the drawing: it runs also in a drawing open
+    // read-only, where every other command is refused.
+    kCommandKeepsDrawing = 0x4,
 };
 
 struct KyRefCommandRow {

@@ -1,6 +1,7 @@
 #include "KyRefCurrentSpace.h"
 
 #include "KyRefCommandContext.h"
+#include "KyRefDocument.h"
 #include "KyRefHost.h"
 #include "KyRefReadAccess.h"
 #include "db/KyDbBlockTableRecord.h"
@@ -18,6 +19,10 @@ constexpr short kPaperViewport = 1;
 }  // namespace
 
 KyDbObjectId KyRefCurrentSpace::blockId(KyRefCommandContext& context) {
+    if (const KyDbObjectId edited = context.document()->editedBlockId();
+        !edited.isNull() && !edited.isErased()) {
+        return edited;
+    }
     KyDbDatabase* database = context.database();
     KyRefResbufPtr viewport;
     const bool onPaper =

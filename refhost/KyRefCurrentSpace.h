@@ -1,6 +1,7 @@
-// KyRefCurrentSpace: where the entity commands draw: model space when it is
-// shown alone (TILEMODE 1) or through a viewport of a layout (CVPORT above 1),
-// the paper space of the current layout otherwise. A new entity takes the
+// KyRefCurrentSpace: where the entity commands draw: the block open in the
+// block editor while there is one; else model space when it is shown alone
+// (TILEMODE 1) or through a viewport of a layout (CVPORT above 1), the paper
+// space of the current layout otherwise. A new entity takes the
 // drawing's current layer, colour, linetype, lineweight, transparency and
 // material.
 #pragma once

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "KyRefDocumentDatabaseReactor.h"
+#include "KyRefHostApplicationServices.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbUndoController.h"
 
@@ -38,6 +39,11 @@ KyRefDocument::KyRefDocument(KyRefHost& host, KyDiDocument handle,
 
 KyRefDocument::~KyRefDocument() {
     destroyDatabase();
+}
+
+void KyRefDocument::setReadOnly(bool readOnly) {
+    m_readOnly = readOnly;
+    KyRefHostApplicationServices::instance().setReadOnly(m_database.get(), readOnly);
 }
 
 void KyRefDocument::setPath(const wchar_t* path) {
@@ -86,6 +92,7 @@ void KyRefDocument::destroyDatabase() {
     // the document still answers its database, as a host's document does
     // until the database is gone.
     m_database->removeReactor(m_reactor.get());
+    KyRefHostApplicationServices::instance().setReadOnly(m_database.get(), false);
     delete m_database.get();
     static_cast<void>(m_database.release());
 }

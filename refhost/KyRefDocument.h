@@ -1,12 +1,15 @@
 // KyRefDocument: one open drawing of the reference host: its database, the
 // name it is shown under, the file it came from, and what the host keeps of
 // it between commands (undo marks, its long transaction, whether it changed
-// since it was read or saved).
+// since it was read or saved, the block open in its block editor, what was
+// told of its layouts' plot settings). A document opened read-only refuses
+// its lock (KyRefHostApplicationServices): nothing writes to its drawing.
 #pragma once
 
 #include <memory>
 #include <vector>
 
+#include "KyRefPlotSettingsWatch.h"
 #include "base/KyString.h"
 #include "db/KyDbObjectId.h"
 #include "kydi/KyDiTypes.h"
@@ -40,6 +43,15 @@ public:
     bool isModified() const { return m_modified; }
     void setModified(bool modified) { m_modified = modified; }
 
+    bool isReadOnly() const { return m_readOnly; }
+    void setReadOnly(bool readOnly);
+
+    // The block open in the block editor; null while none is.
+    KyDbObjectId editedBlockId() const { return m_editedBlock; }
+    void setEditedBlockId(KyDbObjectId id) { m_editedBlock = id; }
+
+    KyRefPlotSettingsWatch& plotSettings() { return m_plotSettings; }
+
     KyDbObjectId longTransactionId() const { return m_longTransaction; }
     void setLongTransactionId(KyDbObjectId id) { m_longTransaction = id; }
 
@@ -69,8 +81,11 @@ private:
     KyString m_name;
     KyString m_path;
     KyDbObjectId m_longTransaction;
+    KyDbObjectId m_editedBlock;
+    KyRefPlotSettingsWatch m_plotSettings;
     std::vector<int> m_undoMarks;
     int m_redoSeen = 0;
     bool m_rolledBackFirst = false;
     bool m_modified = false;
+    bool m_readOnly = false;
 };

@@ -2,6 +2,7 @@
 
 #include "KyRefDocument.h"
 #include "KyRefHost.h"
+#include "db/KyDbLayout.h"
 
 KyRefDocumentDatabaseReactor::KyRefDocumentDatabaseReactor(KyRefHost& host, KyRefDocument& document)
     : m_host(host), m_document(document) {}
@@ -10,8 +11,19 @@ void KyRefDocumentDatabaseReactor::objectAppended(const KyDbDatabase*, const KyD
     m_document.setModified(true);
 }
 
-void KyRefDocumentDatabaseReactor::objectModified(const KyDbDatabase*, const KyDbObject*) {
+void KyRefDocumentDatabaseReactor::objectOpenedForModify(const KyDbDatabase*,
+                                                         const KyDbObject* object) {
+    if (const auto* layout = kyrxCast<KyDbLayout>(object)) {
+        m_document.plotSettings().opening(*layout);
+    }
+}
+
+void KyRefDocumentDatabaseReactor::objectModified(const KyDbDatabase*, const KyDbObject* object) {
     m_document.setModified(true);
+    if (const auto* layout = kyrxCast<KyDbLayout>(object)) {
+        m_document.plotSettings().modified(*layout);
+        m_host.plotSettingsModified();
+    }
 }
 
 void KyRefDocumentDatabaseReactor::objectErased(const KyDbDatabase*, const KyDbObject*, bool) {

@@ -2,7 +2,8 @@
 // A change of the drawing marks the document modified; a change of a header
 // variable outside the host's commands is reported to the host's reactors as
 // the change of a system variable, as a write by the data item layer itself
-// (under its own document lock) must be.
+// (under its own document lock) must be. A change of a layout goes to the
+// document's watch of plot settings, and the host tells it.
 #pragma once
 
 #include "db/KyDbDatabaseReactor.h"
@@ -15,6 +16,7 @@ public:
     KyRefDocumentDatabaseReactor(KyRefHost& host, KyRefDocument& document);
 
     void objectAppended(const KyDbDatabase* database, const KyDbObject* object) override;
+    void objectOpenedForModify(const KyDbDatabase* database, const KyDbObject* object) override;
     void objectModified(const KyDbDatabase* database, const KyDbObject* object) override;
     void objectErased(const KyDbDatabase* database, const KyDbObject* object, bool erased) override;
     void headerSysVarWillChange(const KyDbDatabase* database, const wchar_t* name) override;

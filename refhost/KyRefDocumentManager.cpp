@@ -77,7 +77,8 @@ KyRefDocument* KyRefDocumentManager::newDocument() {
     return adopt(std::move(database), name, L"");
 }
 
-KyRefDocument* KyRefDocumentManager::openDocument(const wchar_t* path, KyString& error) {
+KyRefDocument* KyRefDocumentManager::openDocument(const wchar_t* path, KyString& error,
+                                                  OpenMode mode) {
     KyRefDrawingIo* io = drawingIo();
     if (io == nullptr) {
         error = L"Drawings can't be opened: no drawing file reader is installed.";
@@ -90,19 +91,21 @@ KyRefDocument* KyRefDocumentManager::openDocument(const wchar_t* path, KyString&
             readError.isEmpty() ? KyString::formatted(L"Cannot read \"%ls\".", path) : readError;
         return nullptr;
     }
-    return adopt(std::move(database), L"", path);
+    return adopt(std::move(database), L"", path, mode);
 }
 
 KyRefDocument* KyRefDocumentManager::addDocument(std::unique_ptr<KyDbDatabase> database,
-                                                 const wchar_t* name, const wchar_t* path) {
+                                                 const wchar_t* name, const wchar_t* path,
+                                                 OpenMode mode) {
     if (database == nullptr) {
         return nullptr;
     }
-    return adopt(std::move(database), name, path);
+    return adopt(std::move(database), name, path, mode);
 }
 
 KyRefDocument* KyRefDocumentManager::adopt(std::unique_ptr<KyDbDatabase> database,
-                                           const wchar_t* name, const wchar_t* path) {
+                                           const wchar_t* name, const wchar_t* path,
+                                           OpenMode mode) {
     // What built the drawing is no change a user could take back, and from
     // now on every write needs the document lock or a command.
     database->undoController()->clear();
@@ -112,6 +115,7 @@ KyRefDocument* KyRefDocumentManager::adopt(std::unique_ptr<KyDbDatabase> databas
     m_documents.push_back(
         std::make_unique<KyRefDocument>(m_host, handle, std::move(database), name, path));
     KyRefDocument* document = m_documents.back().get();
+    document->setReadOnly(mode == OpenMode::kReadOnly);
     // A drawing without a name of its own is shown under its file's name
     // before it becomes current: what hears of the switch reads it.
     if (document->name().isEmpty() && path != nullptr && path[0] != L'\0') {

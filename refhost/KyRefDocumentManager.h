@@ -46,14 +46,19 @@ public:
     // A new drawing from the built-in template, named "Drawing<n>.kyd"; it
     // becomes current.
     KyRefDocument* newDocument();
+    // How a document is opened: for changes, or read-only (its lock is
+    // refused, and so is every command that would change it).
+    enum class OpenMode { kWrite, kReadOnly };
+
     // Reads the drawing file `path` through the drawing reader; it becomes
     // current. Null with `error` when the file can't be read or no reader is
     // there.
-    KyRefDocument* openDocument(const wchar_t* path, KyString& error);
+    KyRefDocument* openDocument(const wchar_t* path, KyString& error,
+                                OpenMode mode = OpenMode::kWrite);
     // Takes `database` over as a document of its own (a drawing built by a
     // test or read elsewhere); it becomes current.
     KyRefDocument* addDocument(std::unique_ptr<KyDbDatabase> database, const wchar_t* name,
-                               const wchar_t* path = L"");
+                               const wchar_t* path = L"", OpenMode mode = OpenMode::kWrite);
     // Writes the document to `path`, or to its own file when `path` is empty.
     bool saveDocument(KyRefDocument* document, const wchar_t* path, KyString& error);
     // Makes `document` current; false for a document that isn't open.
@@ -83,7 +88,7 @@ public:
 
 private:
     KyRefDocument* adopt(std::unique_ptr<KyDbDatabase> database, const wchar_t* name,
-                         const wchar_t* path);
+                         const wchar_t* path, OpenMode mode = OpenMode::kWrite);
     void setCurrent(KyRefDocument* document);
 
     KyRefHost& m_host;

@@ -1,5 +1,6 @@
 #include "KyRefHost.h"
 
+#include "KyRefHostApplicationServices.h"
 #include "KyRefLayoutViewports.h"
 #include "KyRefManualClock.h"
 #include "KyRefSysVarTable.h"
@@ -33,11 +34,12 @@ KyRefHost::KyRefHost(const KyRefHostOptions& options)
       m_color(makeIf<KyRefColorService>(options.colorService)),
       m_scaleList(makeIf<KyRefScaleListService>(options.scaleListService)),
       m_image(makeIf<KyRefImageService>(options.imageService)),
-      m_recentBlock(makeIf<KyRefRecentBlockService>(options.recentBlockService)),
+      m_recentBlock(makeIf<KyRefRecentBlockService>(options.recentBlockService, *this)),
       m_counting(makeIf<KyRefCountingService>(options.countingService)),
       m_externalReferences(std::make_unique<KyRefExternalReferenceService>(*this)),
       m_variables(std::make_unique<KyRefVariablesDictionary>(*this)) {
     KyRxVariablesDictionary::install(m_variables.get());
+    KyRefHostApplicationServices::install();
 }
 
 KyRefHost::~KyRefHost() {
@@ -165,6 +167,9 @@ void KyRefHost::raiseVariableChanges(const std::vector<KyString>& names) {
               name.compareNoCase(L"UCSXDIR") == 0 || name.compareNoCase(L"UCSYDIR") == 0;
         resolution = resolution || name.compareNoCase(L"VIEWRES") == 0;
     }
+    if (!isGatheringChanges() && raisePlotSettingsChanges()) {
+        layout = true;
+    }
     if (layout) {
         m_events.raiseLayoutChanged();
     }
@@ -195,6 +200,29 @@ void KyRefHost::drawingVariableChanged(KyRefDocument&, const wchar_t*) {
     raiseVariableChanges(endChangeReport());
 }
 
+void KyRefHost::plotSettingsModified() {
+    if (!isGatheringChanges() && raisePlotSettingsChanges()) {
+        m_events.raiseLayoutChanged();
+    }
+}
+
+bool KyRefHost::raisePlotSettingsChanges() {
+    std::vector<KyString> layouts;
+    for (int index = 0; index < m_documents->count(); ++index) {
+        for (KyString& name : m_documents->at(index)->plotSettings().take()) {
+            layouts.push_back(std::move(name));
+        }
+    }
+    if (layouts.empty()) {
+        return false;
+    }
+    m_events.raisePlotSettingsChanged();
+    for (const KyString& name : layouts) {
+        m_events.raisePlotSettingsChangedForLayout(name);
+    }
+    return true;
+}
+
 void KyRefHost::documentClosing(KyRefDocument& document) {
     if (m_editor == nullptr) {
         return;
@@ -209,4 +237,5 @@ void KyRefHost::currentDocumentChanged() {
     if (m_editor != nullptr && m_editor->interpreter().isWaiting()) {
         m_editor->interpreter().dropWaitingCommand();
     }
+    m_blockEditor.currentDocumentChanged();
 }

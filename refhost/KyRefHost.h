@@ -16,6 +16,14 @@
 // layoutChanged, of the current UCS (UCSNAME, UCSORG, UCSXDIR, UCSYDIR) by
 // one ucsChanged, of the view resolution (VIEWRES) by a regeneration.
 //
+// Plot settings. A change of a layout's plot style table, page setup or
+// raster resolution (by a command, its undo or redo, the plot service or a
+// write of the layout's members) is told as plotSettingsChanged, then
+// plotSettingsChangedForLayout with the layout's name, then layoutChanged:
+// inside a command or another report of changes when it ends, after the
+// variables it changed; otherwise at once, as the write-open of the layout
+// ends.
+//
 // Layouts and viewports. Any layout becomes current through CTAB (the plot
 // service's setLayoutByName writes it too): TILEMODE follows, and CVPORT
 // shows the paper of a layout or the tiled viewport of model space. On a
@@ -27,6 +35,7 @@
 #include <memory>
 #include <vector>
 
+#include "KyRefBlockEditor.h"
 #include "KyRefColorService.h"
 #include "KyRefCommandLine.h"
 #include "KyRefCountingService.h"
@@ -97,6 +106,8 @@ public:
     KyRefManualClock* clock() { return m_clock.get(); }
     // Where the files that commands name are found.
     const KyRefFileFolder& fileFolder() const { return m_fileFolder; }
+    KyRefBlockEditor& blockEditor() { return m_blockEditor; }
+    const KyRefBlockEditor& blockEditor() const { return m_blockEditor; }
 
     // The host is idle: it runs the queued command text.
     void idle();
@@ -128,25 +139,33 @@ public:
     void beginChangeReport();
     std::vector<KyString> endChangeReport();
     bool isGatheringChanges() const { return m_reportDepth > 0; }
-    // Raises sysVarChanged(name, true) for each name, then layoutChanged,
-    // ucsChanged and a regeneration as the names call for.
+    // Raises sysVarChanged(name, true) for each name; outside any report the
+    // changes of plot settings not told yet (see above); then layoutChanged,
+    // ucsChanged and a regeneration as the names and the plot settings call
+    // for.
     void raiseVariableChanges(const std::vector<KyString>& names);
 
     // ---- Told by the documents
     void drawingVariableWillChange(KyRefDocument& document, const wchar_t* name);
     void drawingVariableChanged(KyRefDocument& document, const wchar_t* name);
+    // A layout of a document changed; its watch of plot settings has it.
+    void plotSettingsModified();
     void documentClosing(KyRefDocument& document);
     void currentDocumentChanged();
 
 private:
     // Makes the viewport `number` of the layout shown current (CVPORT).
     Kyro::ErrorStatus showViewport(short number, KyString* reason);
+    // Raises the plot settings events of the changes the documents' watches
+    // hold; true when there was one.
+    bool raisePlotSettingsChanges();
 
     KyRefHostEvents m_events;
     KyRefCommandLine m_commandLine;
     KyRefSysVarStore m_sysVars;
     std::unique_ptr<KyRefManualClock> m_clock;
     KyRefFileFolder m_fileFolder;
+    KyRefBlockEditor m_blockEditor{*this};
     std::unique_ptr<KyRefDocumentManager> m_documents;
     std::unique_ptr<KyRefEditor> m_editor;
     std::unique_ptr<KyRefViewportService> m_viewport;

@@ -1,33 +1,58 @@
 #include "KyRefPlotService.h"
 
+#include <iterator>
+#include <span>
+
 #include "KyRefDocumentManager.h"
 #include "KyRefHost.h"
 #include "KyRefReadAccess.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbLayout.h"
+#include "db/KyDbObjectPointer.h"
 
 namespace {
 
-bool listed(const std::vector<KyString>& names, const KyString& name) {
+// A named plot style table on offer and its styles.
+struct NamedTableRow {
+    const wchar_t* table;
+    std::span<const wchar_t* const> styles;
+};
+
+constexpr const wchar_t* kDefaultStyles[] = {L"Normal", L"Style 1"};
+constexpr const wchar_t* kGrayscaleStyles[] = {L"Normal", L"Light", L"Dark"};
+// The tables the bundled sample names.
+constexpr const wchar_t* kMonochromeStyles[] = {L"Normal", L"Thin", L"Bold", L"Screened"};
+constexpr const wchar_t* kStandardStyles[] = {L"Normal", L"Thin", L"Bold"};
+
+const NamedTableRow kNamedTables[] = {
+    {L"Default.stb", kDefaultStyles},
+    {L"Grayscale.stb", kGrayscaleStyles},
+    {L"monochrome.stb", kMonochromeStyles},
+    {L"standard.stb", kStandardStyles},
+};
+
+constexpr const wchar_t* kColorTables[] = {L"Default.ctb", L"Grayscale.ctb", L"Monochrome.ctb"};
+
+const KyString* listed(const std::vector<KyString>& names, const KyString& name) {
     for (const KyString& known : names) {
         if (known.compareNoCase(name) == 0) {
-            return true;
+            return &known;
         }
     }
-    return false;
+    return nullptr;
 }
 
 }  // namespace
 
-KyRefPlotService::KyRefPlotService(KyRefHost& host)
-    : m_host(host),
-      m_namedTables{KyString(L"Default.stb"), KyString(L"Grayscale.stb")},
-      m_colorTables{KyString(L"Default.ctb"), KyString(L"Grayscale.ctb"),
-                    KyString(L"Monochrome.ctb")},
-      m_tableStyles{{KyString(L"Default.stb"), {KyString(L"Normal"), KyString(L"Style 1")}},
-                    {KyString(L"Grayscale.stb"),
-                     {KyString(L"Normal"), KyString(L"Light"), KyString(L"Dark")}}} {}
+KyRefPlotService::KyRefPlotService(KyRefHost& host) : m_host(host) {
+    for (const NamedTableRow& row : kNamedTables) {
+        m_namedTables.emplace_back(row.table);
+        std::vector<KyString> styles(row.styles.begin(), row.styles.end());
+        m_tableStyles.push_back(TableStyles{KyString(row.table), std::move(styles)});
+    }
+    m_colorTables.assign(std::begin(kColorTables), std::end(kColorTables));
+}
 
 void KyRefPlotService::setTableStyles(const KyString& table, std::vector<KyString> styles) {
     for (TableStyles& known : m_tableStyles) {
@@ -53,26 +78,41 @@ bool KyRefPlotService::colorDependent() const {
     return database == nullptr || database->plotStyleMode();
 }
 
-KyRefPlotService::LayoutSettings* KyRefPlotService::settingsOf(KyDbDatabase* database) {
-    const KyDiDocument document = m_host.documents().documentOf(database);
-    if (document == kKyDiNoDocument) {
-        return nullptr;
-    }
-    KyRefReadAccess<KyDbLayout> layout(kydbCurrentLayoutId(database));
-    const std::wstring layoutName = layout ? layout->layoutName().kwszPtr() : L"";
-    LayoutSettings& settings = m_layouts[{document, layoutName}];
-    if (settings.table.isEmpty()) {
-        const std::vector<KyString>& tables =
-            database->plotStyleMode() ? m_colorTables : m_namedTables;
-        if (!tables.empty()) {
-            settings.table = tables.front();
-        }
-    }
-    return &settings;
+const std::vector<KyString>& KyRefPlotService::tablesOnOffer() const {
+    return colorDependent() ? m_colorTables : m_namedTables;
 }
 
-KyRefPlotService::LayoutSettings* KyRefPlotService::currentSettings() {
-    return settingsOf(m_host.documents().currentDatabase());
+const KyString* KyRefPlotService::findTable(const KyString& name) const {
+    return listed(tablesOnOffer(), name);
+}
+
+KyString KyRefPlotService::tableOf(KyDbDatabase* database) const {
+    KyRefReadAccess<KyDbLayout> layout(kydbCurrentLayoutId(database));
+    if (layout && !layout->plotStyleTable().isEmpty()) {
+        return layout->plotStyleTable();
+    }
+    const std::vector<KyString>& tables = database->plotStyleMode() ? m_colorTables : m_namedTables;
+    return tables.empty() ? KyString() : tables.front();
+}
+
+template <typename Write>
+bool KyRefPlotService::writeCurrentLayout(Write write) {
+    KyDbDatabase* database = m_host.documents().currentDatabase();
+    if (database == nullptr) {
+        return false;
+    }
+    Kyro::ErrorStatus status = Kyro::eOk;
+    m_host.beginChangeReport();
+    {
+        const KyAxDocLock lock(database);
+        status = lock.lockStatus();
+        if (status == Kyro::eOk) {
+            KyDbObjectPointer<KyDbLayout> layout(kydbCurrentLayoutId(database), KyDb::kForWrite);
+            status = layout ? write(*layout.object()) : layout.openStatus();
+        }
+    }
+    m_host.raiseVariableChanges(m_host.endChangeReport());
+    return status == Kyro::eOk;
 }
 
 bool KyRefPlotService::getPlotStyleNames(KyDbDatabase* database, KyDbObjectId& owner,
@@ -81,13 +121,9 @@ bool KyRefPlotService::getPlotStyleNames(KyDbDatabase* database, KyDbObjectId& o
         return false;
     }
     owner = database->plotStyleNameDictionaryId();
-    const LayoutSettings* settings = settingsOf(database);
-    const KyString table = settings != nullptr     ? settings->table
-                           : m_namedTables.empty() ? KyString()
-                                                   : m_namedTables.front();
     // A table of another kind (the drawing's plot styles were converted) or
     // one the host knows no styles of offers none.
-    if (const std::vector<KyString>* styles = stylesOf(table)) {
+    if (const std::vector<KyString>* styles = stylesOf(tableOf(database))) {
         for (const KyString& style : *styles) {
             names.append(style);
         }
@@ -111,25 +147,21 @@ bool KyRefPlotService::listPlotStyleTables(KyArray<KyString>& names, bool namedT
 }
 
 bool KyRefPlotService::getPlotStyleTable(KyString& name) {
-    const LayoutSettings* settings = currentSettings();
-    if (settings == nullptr) {
+    KyDbDatabase* database = m_host.documents().currentDatabase();
+    if (database == nullptr) {
         return false;
     }
-    name = settings->table;
+    name = tableOf(database);
     return true;
 }
 
 bool KyRefPlotService::setPlotStyleTable(const KyString* name) {
-    LayoutSettings* settings = currentSettings();
-    if (settings == nullptr || name == nullptr ||
-        !listed(colorDependent() ? m_colorTables : m_namedTables, *name)) {
+    const KyString* table = name != nullptr ? findTable(*name) : nullptr;
+    if (table == nullptr) {
         return false;
     }
-    if (settings->table.compareNoCase(*name) != 0) {
-        settings->table = *name;
-        m_host.events().raisePlotSettingsChanged();
-    }
-    return true;
+    return writeCurrentLayout(
+        [table](KyDbLayout& layout) { return layout.setPlotStyleTable(*table); });
 }
 
 bool KyRefPlotService::getPlotAttachmentSpace(KyString& text) {
@@ -157,35 +189,26 @@ bool KyRefPlotService::setLayoutByName(const KyString& name) {
 }
 
 bool KyRefPlotService::getPageSetupName(KyString& name) {
-    KyDbDatabase* database = m_host.documents().currentDatabase();
-    if (database == nullptr) {
-        return false;
-    }
-    KyRefReadAccess<KyDbLayout> layout(kydbCurrentLayoutId(database));
+    KyRefReadAccess<KyDbLayout> layout(kydbCurrentLayoutId(m_host.documents().currentDatabase()));
     if (!layout) {
         return false;
     }
-    name = layout->plotSettingsName();
+    name = layout->pageSetupName();
     return true;
 }
 
 bool KyRefPlotService::getRasterDpi(short& dpi) {
-    const LayoutSettings* settings = currentSettings();
-    if (settings == nullptr) {
+    KyRefReadAccess<KyDbLayout> layout(kydbCurrentLayoutId(m_host.documents().currentDatabase()));
+    if (!layout) {
         return false;
     }
-    dpi = settings->rasterDpi;
+    dpi = layout->rasterDpi();
     return true;
 }
 
 bool KyRefPlotService::setRasterDpi(short dpi) {
-    LayoutSettings* settings = currentSettings();
-    if (settings == nullptr || dpi < 100) {
+    if (dpi < KyDbLayout::kMinRasterDpi) {
         return false;
     }
-    if (settings->rasterDpi != dpi) {
-        settings->rasterDpi = dpi;
-        m_host.events().raisePlotSettingsChanged();
-    }
-    return true;
+    return writeCurrentLayout([dpi](KyDbLayout& layout) { return layout.setRasterDpi(dpi); });
 }

@@ -29,25 +29,45 @@ Json named(KySampleHandles& h, const char* type, std::initializer_list<const cha
     return entries;
 }
 
+// A layout's plot settings: its plot style table, the page setup its
+// settings come from, the resolution of raster output, and the settings the
+// host keeps as they are.
+struct LayoutPlot {
+    const char* table;
+    const char* pageSetup;
+    int rasterDpi;
+    Json settings;
+};
+
 Json layouts(KySampleHandles& h) {
-    const auto layout = [&h](const char* name, int tabOrder, const char* block, Json settings) {
-        return Json{{"type", "LAYOUT"},
-                    {"handle", h.of(std::string("layout:") + name)},
-                    {"name", name},
-                    {"tabOrder", tabOrder},
-                    {"block", h.of(std::string("block:") + block)},
-                    {"plotSettings", std::move(settings)}};
+    const auto layout = [&h](const char* name, int tabOrder, const char* block, LayoutPlot plot) {
+        Json entry{{"type", "LAYOUT"},
+                   {"handle", h.of(std::string("layout:") + name)},
+                   {"name", name},
+                   {"tabOrder", tabOrder},
+                   {"block", h.of(std::string("block:") + block)},
+                   {"plotSettings", std::move(plot.settings)},
+                   {"plotStyleTable", plot.table}};
+        if (plot.pageSetup[0] != '\0') {
+            entry["pageSetup"] = plot.pageSetup;
+        }
+        if (plot.rasterDpi != 0) {
+            entry["rasterDpi"] = plot.rasterDpi;
+        }
+        return entry;
     };
     return Json{
-        {"Model", layout("Model", 0, "*Model_Space", Json::object())},
+        {"Model", layout("Model", 0, "*Model_Space", {"standard.stb", "", 0, Json::object()})},
         {"Plan", layout("Plan", 1, "*Paper_Space",
-                        {{"paper", "ISO A3 (420.00 x 297.00 MM)"},
-                         {"plotStyleTable", "monochrome.stb"},
-                         {"scale", "1:100"}})},
+                        {"monochrome.stb",
+                         "A3 Landscape",
+                         300,
+                         {{"paper", "ISO A3 (420.00 x 297.00 MM)"}, {"scale", "1:100"}}})},
         {"Details", layout("Details", 2, "*Paper_Space0",
-                           {{"paper", "ISO A3 (420.00 x 297.00 MM)"},
-                            {"plotStyleTable", "standard.stb"},
-                            {"scale", "1:20"}})},
+                           {"standard.stb",
+                            "",
+                            600,
+                            {{"paper", "ISO A3 (420.00 x 297.00 MM)"}, {"scale", "1:20"}}})},
     };
 }
 

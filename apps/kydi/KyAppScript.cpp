@@ -94,7 +94,7 @@ KyAppScript::~KyAppScript() {
 std::span<const KyAppScript::Row> KyAppScript::rows() {
     using Script = KyAppScript;
     static const Row kRows[] = {
-        {"open", 1, 1, "open FILE", &Script::open},
+        {"open", 1, 2, "open FILE [read-only]", &Script::open},
         {"new", 0, 0, "new", &Script::newDocument},
         {"switch", 1, 1, "switch N", &Script::switchDocument},
         {"close", 0, 0, "close", &Script::close},
@@ -176,9 +176,17 @@ KyRefDocument* KyAppScript::currentDocument() {
 }
 
 bool KyAppScript::open(const KyAppStatement& statement) {
+    using Mode = KyRefDocumentManager::OpenMode;
+    Mode mode = Mode::kWrite;
+    if (statement.words.size() == 2) {
+        if (statement.words[1].text != "read-only") {
+            return fail("unknown option " + statement.words[1].text + " (only read-only)");
+        }
+        mode = Mode::kReadOnly;
+    }
     KyString error;
     if (m_session.host().documents().openDocument(KyString::fromUtf8(statement.words[0].text),
-                                                  error) == nullptr) {
+                                                  error, mode) == nullptr) {
         return fail(error.utf8());
     }
     return true;

@@ -102,16 +102,38 @@ fs::path binaryDirectory() {
 }  // namespace
 
 struct KyRxResourceInstance::Module {
-    // language (lower case, "base" for the base language) -> id -> text
-    std::map<std::wstring, std::map<unsigned, std::wstring>> sections;
+    // language (lower case, "base" for the base language) -> table -> id -> text
+    std::map<std::wstring, std::map<unsigned, std::map<unsigned, std::wstring>>> sections;
 
-    const wchar_t* find(const std::wstring& language, unsigned id) const {
+    const wchar_t* find(const std::wstring& language, unsigned table, unsigned id) const {
         const auto section = sections.find(language);
         if (section == sections.end()) {
             return nullptr;
         }
-        const auto entry = section->second.find(id);
-        return entry != section->second.end() ? entry->second.c_str() : nullptr;
+        const auto texts = section->second.find(table);
+        if (texts == section->second.end()) {
+            return nullptr;
+        }
+        const auto entry = texts->second.find(id);
+        return entry != texts->second.end() ? entry->second.c_str() : nullptr;
+    }
+
+    // A section header's content: "de" (table 0) or "de:3"; false when the
+    // table after the colon is no number.
+    static bool parseSection(const std::wstring& content, std::wstring& language, unsigned& table) {
+        std::wstring tag = content;
+        table = 0;
+        if (const size_t colon = content.find(L':'); colon != std::wstring::npos) {
+            tag = content.substr(0, colon);
+            if (!parseId(trimmed(content.substr(colon + 1)), table)) {
+                return false;
+            }
+        }
+        language = lowered(trimmed(tag));
+        if (language.empty()) {
+            language = kBaseLanguage;
+        }
+        return true;
     }
 
     static std::shared_ptr<const Module> parse(const fs::path& file) {
@@ -126,6 +148,9 @@ struct KyRxResourceInstance::Module {
         }
         auto module = std::make_shared<Module>();
         std::wstring language = kBaseLanguage;
+        unsigned table = 0;
+        // Lines under a header that can't be read belong to no section.
+        bool inSection = true;
         std::wistringstream lines(kyutUtf8ToWide(bytes));
         std::wstring line;
         while (std::getline(lines, line)) {
@@ -134,18 +159,16 @@ struct KyRxResourceInstance::Module {
                 continue;
             }
             if (content.front() == L'[' && content.back() == L']') {
-                language = lowered(trimmed(content.substr(1, content.size() - 2)));
-                if (language.empty()) {
-                    language = kBaseLanguage;
-                }
+                inSection = parseSection(content.substr(1, content.size() - 2), language, table);
                 continue;
             }
             const size_t equals = content.find(L'=');
             unsigned id = 0;
-            if (equals == std::wstring::npos || !parseId(trimmed(content.substr(0, equals)), id)) {
+            if (!inSection || equals == std::wstring::npos ||
+                !parseId(trimmed(content.substr(0, equals)), id)) {
                 continue;  // not a text line: ignored
             }
-            module->sections[language][id] = unescaped(trimmed(content.substr(equals + 1)));
+            module->sections[language][table][id] = unescaped(trimmed(content.substr(equals + 1)));
         }
         return module;
     }
@@ -272,6 +295,10 @@ bool KyRxResourceInstance::isLoaded() const {
 }
 
 const wchar_t* KyRxResourceInstance::text(unsigned id) const {
+    return text(id, 0);
+}
+
+const wchar_t* KyRxResourceInstance::text(unsigned id, unsigned table) const {
     if (m_module == nullptr) {
         return nullptr;
     }
@@ -282,18 +309,18 @@ const wchar_t* KyRxResourceInstance::text(unsigned id) const {
         language = shared.language;
     }
     if (language != kBaseLanguage) {
-        if (const wchar_t* found = m_module->find(language, id)) {
+        if (const wchar_t* found = m_module->find(language, table, id)) {
             return found;
         }
         // "de-ch" falls back to "de" before the base language.
         const size_t separator = language.find_first_of(L"-_");
         if (separator != std::wstring::npos) {
-            if (const wchar_t* found = m_module->find(language.substr(0, separator), id)) {
+            if (const wchar_t* found = m_module->find(language.substr(0, separator), table, id)) {
                 return found;
             }
         }
     }
-    return m_module->find(kBaseLanguage, id);
+    return m_module->find(kBaseLanguage, table, id);
 }
 
 bool KyRxResourceInstance::hasLanguage(const wchar_t* language) const {

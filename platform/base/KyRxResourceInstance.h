@@ -4,7 +4,10 @@
 //
 // File format (UTF-8): a line "[language]" starts a section ("[base]" or a
 // language tag such as "[de]"); "id = text" gives a text; "#" starts a comment
-// line; "\n", "\t" and "\\" are escapes in texts.
+// line; "\n", "\t" and "\\" are escapes in texts. A module may hold several
+// tables of texts, whose numbers are counted apart: "[language:table]"
+// starts a section of table `table` ("[base:1]", "[de:3]"); "[language]" is
+// table 0.
 #pragma once
 
 #include <memory>
@@ -26,6 +29,8 @@ public:
     // The text of `id` in the current language, else in the base language;
     // null when the module has no such text.
     const wchar_t* text(unsigned id) const;
+    // The same, in table `table` of the module.
+    const wchar_t* text(unsigned id, unsigned table) const;
 
     // True when the module has a section for `language` ("de"); the base
     // language ("" or "base") always counts.

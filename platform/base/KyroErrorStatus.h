@@ -34,7 +34,8 @@ enum ErrorStatus : int {
     eCannotSetSysVar = 91,
     eInvalidName = 95,
     eNoCurrentDocument = 124,
-    eLockViolation = 130,  // a write without the document lock
+    eLockViolation = 130,     // a write without the document lock
+    eDocumentReadOnly = 131,  // the host holds the document read-only and refuses its lock
     eNullObjectPointer = 335,
     eNotSupported = 431,
     eNotShown = 528,  // an object that is not to be listed

@@ -13,6 +13,12 @@ const KyDbPropertyRow kLayoutRows[] = {
     {L"TabOrder", kydbiAccess<&KyDbLayout::tabOrder, &KyDbLayout::setTabOrder>(),
      KyDbCategory::kGeneral, 1},
     {L"BlockTableRecordId", kydbiAccess<&KyDbLayout::getBlockTableRecordId>()},
+    {L"PageSetupName", kydbiAccess<&KyDbLayout::pageSetupName, &KyDbLayout::setPageSetupName>(),
+     KyDbCategory::kMisc, 0},
+    {L"PlotStyleTable", kydbiAccess<&KyDbLayout::plotStyleTable, &KyDbLayout::setPlotStyleTable>(),
+     KyDbCategory::kMisc, 1},
+    {L"RasterResolution", kydbiAccess<&KyDbLayout::rasterDpi, &KyDbLayout::setRasterDpi>(),
+     KyDbCategory::kMisc, 2},
 };
 
 }  // namespace
@@ -70,11 +76,29 @@ bool KyDbLayout::modelType() const {
     return tabOrder() == 0;
 }
 
+Kyro::ErrorStatus KyDbLayout::setPlotStyleTable(const wchar_t* value) {
+    return setMember(m_plotStyleTable, KyString(value));
+}
+
+Kyro::ErrorStatus KyDbLayout::setPageSetupName(const wchar_t* value) {
+    return setMember(m_pageSetupName, KyString(value));
+}
+
+Kyro::ErrorStatus KyDbLayout::setRasterDpi(short value) {
+    if (value != 0 && (value < kMinRasterDpi || value > kMaxRasterDpi)) {
+        return Kyro::eInvalidInput;
+    }
+    return setMember(m_rasterDpi, value);
+}
+
 void KyDbLayout::subSaveState(KyDbStateFiler& filer) const {
     KyDbPlotSettings::subSaveState(filer);
     filer.writeString(m_layoutName);
     filer.write(m_tabOrder);
     filer.write(m_block);
+    filer.writeString(m_plotStyleTable);
+    filer.writeString(m_pageSetupName);
+    filer.write(m_rasterDpi);
 }
 
 Kyro::ErrorStatus KyDbLayout::subRestoreState(KyDbStateFiler& filer) {
@@ -85,5 +109,8 @@ Kyro::ErrorStatus KyDbLayout::subRestoreState(KyDbStateFiler& filer) {
     filer.read(m_layoutName);
     filer.read(m_tabOrder);
     filer.read(m_block);
+    filer.read(m_plotStyleTable);
+    filer.read(m_pageSetupName);
+    filer.read(m_rasterDpi);
     return filer.status();
 }

@@ -106,6 +106,9 @@ const TextRow kPropertyTexts[] = {
     {L"DecimalPlaces", 9491},
     {L"Mask", 9492},
     {L"LensLength", 9493},
+    {L"PageSetupName", 9494},
+    {L"PlotStyleTable", 9495},
+    {L"RasterResolution", 9496},
 };
 
 // Local names of the database classes, by class name.

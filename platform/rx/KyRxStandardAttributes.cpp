@@ -25,8 +25,10 @@ namespace {
 
 // Which module serves each table, and the modules loaded so far. Kept for the
 // whole process: texts are asked for up to its end.
+constexpr const wchar_t* kPlatformModule = L"kyplatform";
+
 struct ResourceTableState {
-    std::map<unsigned, KyString> modules{{0U, KyString(L"kyplatform")}};
+    std::map<unsigned, KyString> modules{{0U, KyString(kPlatformModule)}};
     std::map<KyString, std::unique_ptr<KyRxResourceInstance>, KyStringLess> loaded;
 };
 
@@ -117,21 +119,24 @@ void KyRxResourceTables::setTableModule(unsigned table, const wchar_t* moduleNam
 
 KyString KyRxResourceTables::text(unsigned table, unsigned id) {
     ResourceTableState& state = resourceTables();
-    auto module = state.modules.find(table);
-    if (module == state.modules.end()) {
-        return KyString();
-    }
-    auto loaded = state.loaded.find(module->second);
+    // A table no module is named for is served by the platform's own module,
+    // from its sections of that table; a named module serves the table from
+    // its plain sections.
+    const auto named = state.modules.find(table);
+    const KyString moduleName =
+        named != state.modules.end() ? named->second : KyString(kPlatformModule);
+    const unsigned section = named != state.modules.end() ? 0U : table;
+    auto loaded = state.loaded.find(moduleName);
     if (loaded == state.loaded.end()) {
         // A module that does not load is not kept: a search path added later
         // may find it.
-        auto instance = std::make_unique<KyRxResourceInstance>(module->second.kwszPtr());
+        auto instance = std::make_unique<KyRxResourceInstance>(moduleName.kwszPtr());
         if (!instance->isLoaded()) {
             return KyString();
         }
-        loaded = state.loaded.emplace(module->second, std::move(instance)).first;
+        loaded = state.loaded.emplace(moduleName, std::move(instance)).first;
     }
-    const wchar_t* found = loaded->second->text(id);
+    const wchar_t* found = loaded->second->text(id, section);
     return found != nullptr ? KyString(found) : KyString();
 }
 

@@ -31,7 +31,11 @@ public:
 };
 
 // Localised texts come from resource tables: table 0 is the platform's own
-// module, the others are modules that a host names with setTableModule.
+// module, and a host may name a module for any table with setTableModule. A
+// table no module is named for is read from the platform's own module, from
+// its sections of that table (KyRxResourceInstance.h): the platform ships
+// texts of tables 1 (descriptions) and 3 (names of layout and view settings)
+// there.
 class KYPLATFORM_API KyRxResourceTables {
 public:
     static void setTableModule(unsigned table, const wchar_t* moduleName);

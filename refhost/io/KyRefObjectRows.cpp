@@ -43,8 +43,13 @@ const KyRefMemberList kDictionaryMembers{{"entries"}};
 // A file that leaves the default out gets the standard one, and is written
 // back without it while the default stays that one.
 const KyRefMemberList kDictionaryWithDefaultMembers{{"entries"}, {"default", "\"Normal\""}};
-const KyRefMemberList kLayoutMembers{
-    {"name"}, {"tabOrder", "0"}, {"block"}, {"plotSettings", "{}"}};
+const KyRefMemberList kLayoutMembers{{"name"},
+                                     {"tabOrder", "0"},
+                                     {"block"},
+                                     {"plotSettings", "{}"},
+                                     {"plotStyleTable", "\"\""},
+                                     {"pageSetup", "\"\""},
+                                     {"rasterDpi", "0"}};
 const KyRefMemberList kPlotSettingsMembers{{"name"}, {"settings", "{}"}};
 const KyRefMemberList kMaterialMembers{{"name"}, {"description", "\"\""}};
 const KyRefMemberList kVisualStyleMembers{{"name"}, {"kind", "0"}, {"internal", "false"}};
@@ -190,6 +195,13 @@ KyDbObject* readLayout(KyRefReadContext& context, const KyRefJsonNode& node,
                                 context.object(block, KyDbBlockTableRecord::desc(), "a block")),
                             block, "the handle of a block");
     layout->setSettings(settingsText(node, "plotSettings"));
+    layout->setPlotStyleTable(node.text("plotStyleTable", L""));
+    layout->setPageSetupName(node.text("pageSetup", L""));
+    if (const auto dpi = node.optional("rasterDpi")) {
+        KyRefReadContext::check(
+            layout->setRasterDpi(static_cast<short>(dpi->asInteger(0, KyDbLayout::kMaxRasterDpi))),
+            *dpi, "0 (none) or a resolution from 100 to 32767 dots per inch");
+    }
     return layout.release();
 }
 
@@ -199,6 +211,9 @@ void writeLayout(KyRefWriteContext&, const KyDbObject& object, KyRefJson& out) {
     out["tabOrder"] = layout.tabOrder();
     out["block"] = Forms::handle(KyDbHandle(layout.getBlockTableRecordId().handle()));
     out["plotSettings"] = settingsJson(layout.settings());
+    out["plotStyleTable"] = kyrefUtf8(layout.plotStyleTable());
+    out["pageSetup"] = kyrefUtf8(layout.pageSetupName());
+    out["rasterDpi"] = layout.rasterDpi();
 }
 
 KyDbObject* readPlotSettings(KyRefReadContext&, const KyRefJsonNode& node, const KyRefEntryPlace&) {

@@ -135,6 +135,10 @@ TEST_F(Program, ALayerRenamedErasedAndBroughtBackIsAChangeARemovalAndAnAddition)
     expectScript("layer_rename_erase", 0);
 }
 
+TEST_F(Program, ADrawingOpenedReadOnlyRefusesTheCommandsThatWouldChangeIt) {
+    expectScript("read_only", 1);
+}
+
 TEST_F(Program, AnOffLayerMadeCurrentIsTurnedOnWhenTheUserSaysYesAndOnlyWhenAsked) {
     expectScript("current_off_layer", 0);
 }

@@ -8,6 +8,8 @@
 #include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbDictionary.h"
+#include "db/KyDbDictionaryIterator.h"
+#include "db/KyDbLayout.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbVisualStyle.h"
 #include "pal/KyPal.h"
@@ -16,6 +18,11 @@ namespace refhost {
 namespace {
 
 class HostServicesTest : public RefHostTest {};
+
+// The current layout of `database`, open for read while the result lives.
+KyRefReadAccess<KyDbLayout> layoutOf(KyDbDatabase* database) {
+    return KyRefReadAccess<KyDbLayout>(kydbCurrentLayoutId(database));
+}
 
 // The names of the items of `ids`, read through their dictionary.
 Lines visualStyleNames(const KyArray<KyDbObjectId>& ids);
@@ -149,11 +156,16 @@ TEST_F(HostServicesTest, EachLayoutKeepsItsPlotStyleTableAndChangesAreTold) {
     ASSERT_TRUE(plot.getPlotAttachmentSpace(text));
     EXPECT_EQ(text, L"Model");
 
-    const KyString monochrome(L"Monochrome.ctb");
+    const KyString monochrome(L"MONOCHROME.ctb");
     const KyString named(L"Default.stb");
     EXPECT_TRUE(plot.setPlotStyleTable(&monochrome));
     EXPECT_FALSE(plot.setPlotStyleTable(&named)) << "a table of the other kind";
-    EXPECT_EQ(spy.take(), (Lines{"plotSettingsChanged"}));
+    EXPECT_TRUE(plot.setPlotStyleTable(&monochrome));
+    EXPECT_EQ(spy.take(),
+              (Lines{"plotSettingsChanged", "plotSettingsChangedForLayout Model", "layoutChanged"}))
+        << "once: the refused table and the same one again are no change";
+    EXPECT_EQ(layoutOf(db())->plotStyleTable(), L"Monochrome.ctb")
+        << "the layout keeps the table in its own spelling";
 
     ASSERT_TRUE(plot.setLayoutByName(KyString(L"Layout1")));
     EXPECT_EQ(spy.take(),
@@ -162,7 +174,7 @@ TEST_F(HostServicesTest, EachLayoutKeepsItsPlotStyleTableAndChangesAreTold) {
     ASSERT_TRUE(plot.getPlotStyleTable(text));
     EXPECT_EQ(text, L"Default.ctb");
     ASSERT_TRUE(plot.getPageSetupName(text));
-    EXPECT_EQ(text, L"Layout1");
+    EXPECT_EQ(text, L"") << "the settings come from no page setup";
     ASSERT_TRUE(plot.getPlotAttachmentSpace(text));
     EXPECT_EQ(text, L"Layout");
     EXPECT_FALSE(plot.setLayoutByName(KyString(L"Layout9")));
@@ -170,10 +182,33 @@ TEST_F(HostServicesTest, EachLayoutKeepsItsPlotStyleTableAndChangesAreTold) {
     short dpi = -1;
     ASSERT_TRUE(plot.getRasterDpi(dpi));
     EXPECT_EQ(dpi, 0);
+    spy.take();
     EXPECT_TRUE(plot.setRasterDpi(600));
     EXPECT_FALSE(plot.setRasterDpi(10));
+    EXPECT_FALSE(plot.setRasterDpi(0)) << "a resolution, not none";
     ASSERT_TRUE(plot.getRasterDpi(dpi));
     EXPECT_EQ(dpi, 600);
+    EXPECT_EQ(spy.take(), (Lines{"plotSettingsChanged", "plotSettingsChangedForLayout Layout1",
+                                 "layoutChanged"}));
+    EXPECT_EQ(layoutOf(db())->rasterDpi(), 600);
+
+    ASSERT_TRUE(plot.setLayoutByName(KyString(L"Model")));
+    ASSERT_TRUE(plot.getRasterDpi(dpi));
+    EXPECT_EQ(dpi, 0) << "each layout has its own";
+    ASSERT_TRUE(plot.getPlotStyleTable(text));
+    EXPECT_EQ(text, L"Monochrome.ctb");
+}
+
+TEST_F(HostServicesTest, ThePlotServicesChangesAreStepsOfUndo) {
+    KyRefPlotService& plot = *host->plotService();
+    ASSERT_TRUE(plot.setRasterDpi(1200));
+    spy.take();
+    run(L"U\n");
+    EXPECT_EQ(layoutOf(db())->rasterDpi(), 0);
+    EXPECT_EQ(
+        spy.take(),
+        (Lines{"commandWillStart U", "plotSettingsChanged", "plotSettingsChangedForLayout Model",
+               "layoutChanged", "drawingContentChanged", "commandEnded U", "refreshNeeded false"}));
 }
 
 // A drawing with named plot styles, made current.
@@ -234,6 +269,45 @@ TEST_F(HostServicesTest, ThePlotStylesOfferedAreThoseOfTheTableOfTheDrawingsLayo
     names.removeAll();
     ASSERT_TRUE(plot.getPlotStyleNames(&background, owner, names));
     EXPECT_EQ(texts(names), (Lines{"Normal", "Style 1"})) << "a drawing without a document";
+}
+
+// The names of the layouts of `database` with the table each names.
+std::vector<std::pair<KyString, KyString>> layoutTables(KyDbDatabase* database) {
+    std::vector<std::pair<KyString, KyString>> tables;
+    KyRefReadAccess<KyDbDictionary> layouts(database->layoutDictionaryId());
+    const std::unique_ptr<KyDbDictionaryIterator> it(layouts->newIterator());
+    for (; !it->done(); it->next()) {
+        KyRefReadAccess<KyDbLayout> layout(it->objectId());
+        tables.emplace_back(layout->layoutName(), layout->plotStyleTable());
+    }
+    return tables;
+}
+
+TEST_F(HostServicesTest, EveryTableTheSampleNamesIsOnOfferWithEveryStyleTheSampleUses) {
+    KyString error;
+    KyRefDocument* sample = host->documents().openDocument(L"" KYDI_TEST_SAMPLE, error);
+    ASSERT_NE(sample, nullptr) << error.utf8();
+    KyRefPlotService& plot = *host->plotService();
+    KyArray<KyString> offered;
+    plot.listPlotStyleTables(offered, true, false);
+    const auto tables = layoutTables(sample->database());
+    ASSERT_EQ(tables.size(), 3u);
+    for (const auto& [layoutName, table] : tables) {
+        EXPECT_TRUE(offered.contains(table)) << layoutName.utf8() << " names " << table.utf8();
+        ASSERT_TRUE(plot.setLayoutByName(layoutName));
+        KyDbObjectId owner;
+        KyArray<KyString> styles;
+        ASSERT_TRUE(plot.getPlotStyleNames(sample->database(), owner, styles));
+        for (const char* used : {"Normal", "Thin", "Bold"}) {
+            EXPECT_TRUE(styles.contains(KyString::fromUtf8(used)))
+                << table.utf8() << " lacks " << used;
+        }
+    }
+    ASSERT_TRUE(plot.setLayoutByName(KyString(L"Model")));
+    KyDbObjectId owner;
+    KyArray<KyString> styles;
+    ASSERT_TRUE(plot.getPlotStyleNames(sample->database(), owner, styles));
+    EXPECT_EQ(texts(styles), (Lines{"Normal", "Thin", "Bold"})) << "the sample's own table";
 }
 
 TEST_F(HostServicesTest, RenderPresetsAreTheHostsAndTheDrawings) {

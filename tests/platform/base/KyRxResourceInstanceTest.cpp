@@ -66,6 +66,21 @@ TEST_F(BaseResource, SwitchingTheLanguageFallsBackToTheBaseLanguage) {
     EXPECT_EQ(nullptr, resources.text(5));
 }
 
+TEST_F(BaseResource, TablesOfAModuleCountTheirNumbersApart) {
+    const KyRxResourceInstance resources(dataFile(L"kytest.kyres"));
+    EXPECT_STREQ(L"Layer", resources.text(1));
+    EXPECT_STREQ(L"Layer", resources.text(1, 0));
+    EXPECT_STREQ(L"Layout name", resources.text(1, 3));
+    EXPECT_STREQ(L"Only in table 3", resources.text(8, 3));
+    EXPECT_EQ(nullptr, resources.text(8));
+    EXPECT_EQ(nullptr, resources.text(2, 3)) << "table 0's text is not table 3's";
+    EXPECT_EQ(nullptr, resources.text(1, 1));
+    KyRxResourceInstance::setLanguage(L"de");
+    EXPECT_STREQ(L"Layoutname", resources.text(1, 3));
+    EXPECT_STREQ(L"Only in table 3", resources.text(8, 3)) << "the base language's";
+    EXPECT_STREQ(L"Farbe", resources.text(2)) << "lines under a broken header belong nowhere";
+}
+
 TEST_F(BaseResource, LoadStringFillsTheStringOnlyWhenTheTextExists) {
     const KyRxResourceInstance resources(dataFile(L"kytest.kyres"));
     KyString text(L"unchanged");

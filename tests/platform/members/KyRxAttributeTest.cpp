@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <vector>
 
 #include "MemberTestSupport.h"
 #include "base/KyRxResourceInstance.h"
@@ -130,6 +131,45 @@ TEST_F(LocalizedTexts, LocalNameFallsBackToTheName) {
     MemberPtr<TestProperty> width = newProperty(L"Width");
     width->attributes().add(new KyRxLocalizedNameAttribute(100, kTestTable));
     EXPECT_STREQ(width->localName().kwszPtr(), L"Width") << "the table was unmapped";
+}
+
+// The texts the palette of a drawing's settings names its values with, by
+// table and number: every one is there in both languages.
+struct TextId {
+    unsigned table;
+    unsigned id;
+};
+const TextId kDrawingSettingTexts[] = {
+    {0, 112},  {0, 164},  {0, 196},  {0, 203},  {0, 807},  {0, 81},   {0, 1165}, {0, 1166},
+    {0, 1167}, {0, 741},  {0, 1273}, {0, 1274}, {0, 332},  {0, 663},  {0, 557},  {0, 939},
+    {0, 621},  {0, 51},   {0, 134},  {0, 1103}, {0, 1104}, {0, 1105}, {0, 1106}, {0, 1107},
+    {0, 1108}, {0, 1109}, {0, 1110}, {0, 1111}, {0, 1112}, {0, 1113}, {3, 242},  {3, 244},
+    {3, 246},  {3, 149},  {3, 150},  {1, 2308}, {1, 2174}, {1, 2178}, {1, 2222}, {1, 7203},
+    {1, 2182}, {1, 6266}, {1, 2720}, {1, 6312}, {1, 7370}, {1, 7371}, {1, 7001}, {1, 6057},
+    {1, 2218}, {3, 165},  {3, 166},
+};
+
+TEST_F(LocalizedTexts, ThePlatformServesTheTextsOfADrawingsSettingsFromItsOwnTables) {
+    std::vector<KyString> base;
+    for (const TextId& text : kDrawingSettingTexts) {
+        base.push_back(KyRxResourceTables::text(text.table, text.id));
+        EXPECT_FALSE(base.back().isEmpty()) << text.id << "," << text.table;
+    }
+    KyRxResourceInstance::setLanguage(L"de");
+    int translated = 0;
+    for (std::size_t i = 0; i < std::size(kDrawingSettingTexts); ++i) {
+        const TextId& text = kDrawingSettingTexts[i];
+        const KyString local = KyRxResourceTables::text(text.table, text.id);
+        EXPECT_FALSE(local.isEmpty()) << text.id << "," << text.table;
+        translated += local.compare(base[i]) != 0 ? 1 : 0;
+    }
+    EXPECT_EQ(KyRxResourceTables::text(3, 244), L"Name der Seiteneinrichtung");
+    KyRxResourceInstance::setLanguage(L"");
+    EXPECT_GE(translated, 45) << "a few names read the same in both languages";
+    EXPECT_EQ(KyRxResourceTables::text(3, 244), L"Page setup name");
+    EXPECT_EQ(KyRxResourceTables::text(1, 2308), L"Specifies the color of new objects");
+    EXPECT_TRUE(KyRxResourceTables::text(0, 244).isEmpty()) << "each table counts apart";
+    EXPECT_EQ(KyRxResourceTables::text(0, 9404), L"Color") << "table 0 as before";
 }
 
 TEST_F(LocalizedTexts, ClassesHaveLocalNamesAndDescriptionsToo) {
