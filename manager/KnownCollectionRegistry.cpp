@@ -88,8 +88,7 @@ KyDiObservableCollection* KnownCollectionRegistry::getKnownCollection(
     if (collection == nullptr && tracker != nullptr) {
         // A dictionary no row knows: the name is its path of keys, and the
         // caller brings the tracker.
-        collection =
-            new KyDiObservableCollection(new KyDiImpDictionaryItemCollection(name, tracker));
+        collection = (new KyDiImpDictionaryItemCollection(name, tracker))->newPublicObject();
     }
     if (collection != nullptr) {
         auto [entry, inserted] = state.knownCollections.try_emplace(name, collection);
@@ -131,7 +130,9 @@ KyDiObservableCollection* KnownCollectionRegistry::newKnownCollection(const wcha
         if (row.newCollection == nullptr) {
             return nullptr;
         }
-        return new KyDiObservableCollection(row.newCollection(row.name, tracker, row.getTableId));
+        return static_cast<KyDiImpCollectionBase*>(
+                   row.newCollection(row.name, tracker, row.getTableId))
+            ->newPublicObject();
     }
     return nullptr;
 }
