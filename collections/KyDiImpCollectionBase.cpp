@@ -10,6 +10,7 @@
 #include "kydi/KyDiCollectionReactor.h"
 #include "kydi/KyDiCurrencyTracker.h"
 #include "kydi/KyDiFunctions.h"
+#include "kydi/KyDiObservableCollection.h"
 #include "manager/host/KyDiHostAccess.h"
 #include "objects/DataItemOwnership.h"
 
@@ -43,6 +44,10 @@ KyDiImpCollectionBase::~KyDiImpCollectionBase() {
     m_currentItem = nullptr;
     m_previousCurrentItem = nullptr;
     m_reactors.setPhysicalLength(0);
+}
+
+KyDiObservableCollection* KyDiImpCollectionBase::newPublicObject() {
+    return new KyDiObservableCollection(this);
 }
 
 bool KyDiImpCollectionBase::isActive() const {
@@ -191,6 +196,7 @@ unsigned KyDiImpCollectionBase::refreshItems(KyDiItemArray& added, KyDiItemArray
                                              KyDiItemArray& modified) {
     unsigned bits = 0;
     const KyDiDocument document = KyDiHostAccess::currentDocument();
+    const bool toldActive = m_wasActive;
     const bool active = isActive();
     if (active != m_wasActive) {
         bits |= kChangeActive;
@@ -203,14 +209,14 @@ unsigned KyDiImpCollectionBase::refreshItems(KyDiItemArray& added, KyDiItemArray
     subPrepareUpdate();
     if (document != m_boundDocument || (m_pendingFlags & kResetPending) != 0 ||
         subTooManyChanges()) {
-        return resetItems(bits);
+        return resetItems(bits, toldActive);
     }
     if ((m_pendingFlags & kRefillPending) != 0) {
         KyDiItemArray newItems(0, 8);
         if (isValidBinding(m_boundDocument)) {
             KyDbDatabase* db = KyDiHostAccess::databaseOf(m_boundDocument);
             if (!subFill(false, db, newItems, &itemsContext)) {
-                return resetItems(bits);
+                return resetItems(bits, toldActive);
             }
         }
         subMergeItems(added, removed, modified, newItems);
@@ -233,7 +239,7 @@ unsigned KyDiImpCollectionBase::refreshItems(KyDiItemArray& added, KyDiItemArray
     return bits;
 }
 
-unsigned KyDiImpCollectionBase::resetItems(unsigned bits) {
+unsigned KyDiImpCollectionBase::resetItems(unsigned bits, bool toldActive) {
     deactivate(m_boundDocument, nullptr);
     const KyDiDocument document = KyDiHostAccess::rawCurrentDocument();
     if (document != kKyDiNoDocument && document == KyDiHostAccess::dyingDocument()) {
@@ -248,9 +254,12 @@ unsigned KyDiImpCollectionBase::resetItems(unsigned bits) {
     if (auto* shared = dynamic_cast<DataItemCurrencyTrackerBase*>(m_tracker)) {
         shared->notifyReactors();
     }
-    // The activity told with this reset is the one after it: the next update
-    // does not tell it again.
+    // The activity told with this reset is the one after it, and only when it
+    // differs from what the clients were told (a collection may be inactive
+    // while bound: the plot styles of a drawing without named plot styles).
+    // The next update does not tell it again.
     m_wasActive = isActive();
+    bits = m_wasActive != toldActive ? bits | kChangeActive : bits & ~kChangeActive;
     m_pendingFlags = 0;
     subClearPending();
     return bits | kChangeReset;
@@ -329,10 +338,14 @@ void KyDiImpCollectionBase::mergeByIdentity(KyDiItemArray& added, KyDiItemArray&
         }
         matched[static_cast<std::size_t>(k)] = true;
         // For an item the cache keeps, the new pointer is the same object;
-        // its name is read from the record as it stands now.
-        if (newItems[k] != entry &&
-            KyDiGetItemName(newItems[k]).compare(KyDiGetItemName(entry)) != 0) {
-            modified.append(entry);
+        // its name is read from the record as it stands now. Any other new
+        // object (an entry of no record, matched by its name) is given up:
+        // the entry stays.
+        if (newItems[k] != entry) {
+            if (KyDiGetItemName(newItems[k]).compare(KyDiGetItemName(entry)) != 0) {
+                modified.append(entry);
+            }
+            DataItemOwnership::disposeDataItem(newItems[k]);
         }
     }
     if (!removed.isEmpty()) {

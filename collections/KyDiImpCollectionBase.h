@@ -26,6 +26,7 @@ class KyDbObject;
 class KyDiDbItem;
 class KyDiCollectionReactor;
 class KyDiCurrencyTracker;
+class KyDiObservableCollection;
 
 using KyDiCollectionReactorArray =
     KyArray<KyDiCollectionReactor*, KyArrayMemCopyReallocator<KyDiCollectionReactor*>>;
@@ -63,6 +64,12 @@ public:
     unsigned pendingFlags() const { return m_pendingFlags; }
     unsigned traits() const { return m_traits; }
     KyDiCollectionReactorArray& reactors() { return m_reactors; }
+    // Set by the factory of a known collection.
+    void setTraits(unsigned traits) { m_traits = traits; }
+
+    // The public object over this body, which takes it over: a
+    // KyDiObservableCollection, or a class of it that offers more of the body.
+    virtual KyDiObservableCollection* newPublicObject();
 
     // Bound to a document that the host still answers a database for.
     virtual bool isActive() const;
@@ -123,12 +130,13 @@ protected:
     // name, the old item stays and the new one is given up.
     void mergeByName(KyDiItemArray& added, KyDiItemArray& removed, KyDiItemArray& newItems);
 
-    void setTraits(unsigned traits) { m_traits = traits; }
     void setPending(unsigned flags) { m_pendingFlags |= flags; }
+    void clearPending(unsigned flags) { m_pendingFlags &= ~flags; }
 
 private:
     unsigned refreshItems(KyDiItemArray& added, KyDiItemArray& removed, KyDiItemArray& modified);
-    unsigned resetItems(unsigned bits);
+    // `toldActive`: the activity the clients knew before this update.
+    unsigned resetItems(unsigned bits, bool toldActive);
     // Fills the collection's own list from `document`, takes the tracker's
     // current item and starts listening; false when the fill failed.
     bool fillFrom(KyDbDatabase* db);

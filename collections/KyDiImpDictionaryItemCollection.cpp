@@ -9,6 +9,7 @@
 #include "db/KyDbDictionaryIterator.h"
 #include "db/KyDbObjectPointer.h"
 #include "kydi/KyDiDataItemFactory.h"
+#include "rx/KyRxValue.h"
 
 void KyDiImpDictionaryItemCollection::subDrawingContentChanged() {
     requestRefill();
@@ -61,13 +62,25 @@ KyDbObjectId KyDiImpDictionaryItemCollection::resolveDictionary(KyDbDatabase* db
     return found;
 }
 
+bool KyDiImpDictionaryItemCollection::beginFill(KyDbDatabase* db, KyDbObjectId& owner,
+                                                KyDiItemArray& list) {
+    owner.setNull();
+    list.setLogicalLength(0);
+    return db != nullptr;
+}
+
+void KyDiImpDictionaryItemCollection::appendRecords(const KyArray<KyDbObjectId>& ids,
+                                                    KyDiItemArray& list) {
+    for (int i = 0; i < ids.length(); ++i) {
+        list.append(createDataItem(KyString(), KyRxValue(ids[i])));
+    }
+}
+
 bool KyDiImpDictionaryItemCollection::subFillFromDatabase(bool /*initial*/, KyDbDatabase* db,
                                                           KyDbObjectId& owner, KyDiItemArray& list,
                                                           KyArray<KyDbObjectId>& /*erased*/,
                                                           void** /*context*/) {
-    owner.setNull();
-    list.setLogicalLength(0);
-    if (db == nullptr) {
+    if (!beginFill(db, owner, list)) {
         return false;
     }
     owner = resolveDictionary(db);

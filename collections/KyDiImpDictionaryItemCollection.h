@@ -19,6 +19,13 @@ public:
     // is missing.
     KyDbObjectId resolveDictionary(KyDbDatabase* db);
 
+protected:
+    // The start of a fill: no owner and an empty list; false without a
+    // database.
+    static bool beginFill(KyDbDatabase* db, KyDbObjectId& owner, KyDiItemArray& list);
+    // Appends the item of each record of `ids`, in their order.
+    static void appendRecords(const KyArray<KyDbObjectId>& ids, KyDiItemArray& list);
+
 private:
     KyArray<KyString, KyArrayObjectCopyReallocator<KyString>> m_dictionaryPath;
 };

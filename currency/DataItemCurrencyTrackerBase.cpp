@@ -3,8 +3,10 @@
 #include "kydi/KyDiCollection.h"
 #include "kydi/KyDiCurrencyReactor.h"
 #include "kydi/KyDiDbItem.h"
+#include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiManager.h"
 #include "kydi/KyDiObservableCollection.h"
+#include "rx/KyRxValue.h"
 
 DataItemCurrencyTrackerBase::DataItemCurrencyTrackerBase(const wchar_t* collectionName,
                                                          const wchar_t* sysVarName,
@@ -44,12 +46,16 @@ const KyDiItemArray& DataItemCurrencyTrackerBase::collectionItems() const {
 }
 
 KyDiDynamicObject* DataItemCurrencyTrackerBase::itemOfRecord(KyDbObjectId id) const {
-    const KyDiItemArray& items = collectionItems();
-    for (int i = 0; i < items.length(); ++i) {
-        const auto* item = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(items[i]));
-        if (item != nullptr && item->objectId() == id) {
-            return items[i];
-        }
+    return firstItem([id](KyDiDynamicObject* item) {
+        const auto* dbItem = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(item));
+        return dbItem != nullptr && dbItem->objectId() == id;
+    });
+}
+
+KyString DataItemCurrencyTrackerBase::valueTextOf(KyDiDynamicObject* item) {
+    const KyRxValue* value = item != nullptr ? item->value() : nullptr;
+    if (value == nullptr || value->isEmpty()) {
+        return KyDiGetItemName(item);
     }
-    return nullptr;
+    return value->text();
 }

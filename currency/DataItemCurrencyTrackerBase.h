@@ -41,6 +41,21 @@ protected:
     const KyDiItemArray& collectionItems() const;
     // The first item of the collection that stands for the record `id`.
     KyDiDynamicObject* itemOfRecord(KyDbObjectId id) const;
+    // The first item of the collection for which `match` answers true; null
+    // when none does.
+    template <typename Match>
+    KyDiDynamicObject* firstItem(Match match) const {
+        const KyDiItemArray& items = collectionItems();
+        for (int i = 0; i < items.length(); ++i) {
+            if (match(items[i])) {
+                return items[i];
+            }
+        }
+        return nullptr;
+    }
+    // The text of `item`'s value; its name when it has no value (an entry
+    // of a list of names).
+    static KyString valueTextOf(KyDiDynamicObject* item);
 
 private:
     KyString m_collectionName;

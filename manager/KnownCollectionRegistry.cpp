@@ -40,6 +40,23 @@ KyDiCurrencyTracker* makeTracker(const wchar_t* name, NewTracker newTracker, con
     return tracker;
 }
 
+// The tracker of the first row named `name` in a table closed by a null
+// name, made and kept under the name; null, and nothing kept, when no row
+// with a factory has the name or the factory gives none.
+KyDiCurrencyTracker* trackerOfRow(const KnownEnumRow* rows, const wchar_t* name) {
+    for (const KnownEnumRow* row = rows; row->name != nullptr; ++row) {
+        if (sameName(row->name, name) && row->newTracker != nullptr) {
+            KyDiCurrencyTracker* tracker =
+                row->newTracker(row->name, row->sysVar, row->commandFormat, nullptr, nullptr);
+            if (tracker != nullptr) {
+                kydiManagerState().currencyTrackers[row->name] = tracker;
+            }
+            return tracker;
+        }
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 void KnownCollectionRegistry::install() {
@@ -88,8 +105,7 @@ KyDiObservableCollection* KnownCollectionRegistry::getKnownCollection(
     if (collection == nullptr && tracker != nullptr) {
         // A dictionary no row knows: the name is its path of keys, and the
         // caller brings the tracker.
-        collection =
-            new KyDiObservableCollection(new KyDiImpDictionaryItemCollection(name, tracker));
+        collection = (new KyDiImpDictionaryItemCollection(name, tracker))->newPublicObject();
     }
     if (collection != nullptr) {
         auto [entry, inserted] = state.knownCollections.try_emplace(name, collection);
@@ -131,7 +147,9 @@ KyDiObservableCollection* KnownCollectionRegistry::newKnownCollection(const wcha
         if (row.newCollection == nullptr) {
             return nullptr;
         }
-        return new KyDiObservableCollection(row.newCollection(row.name, tracker, row.getTableId));
+        return static_cast<KyDiImpCollectionBase*>(
+                   row.newCollection(row.name, tracker, row.getTableId))
+            ->newPublicObject();
     }
     return nullptr;
 }
@@ -158,18 +176,12 @@ KyDiCurrencyTracker* KnownCollectionRegistry::getCurrencyTracker(const wchar_t* 
             }
         }
     }
-    // Here comes the drawing context's table of trackers.
-    for (const KnownEnumRow* row = KnownCollectionRows::enumRows(); row->name != nullptr; ++row) {
-        if (sameName(row->name, name) && row->newTracker != nullptr) {
-            KyDiCurrencyTracker* tracker =
-                row->newTracker(row->name, row->sysVar, row->commandFormat, nullptr, nullptr);
-            if (tracker != nullptr) {
-                state.currencyTrackers[row->name] = tracker;
-            }
-            return tracker;
-        }
+    // Then the drawing context's values, then the enumerations.
+    if (KyDiCurrencyTracker* tracker =
+            trackerOfRow(KnownCollectionRows::drawingTrackerRows(), name)) {
+        return tracker;
     }
-    return nullptr;
+    return trackerOfRow(KnownCollectionRows::enumRows(), name);
 }
 
 KyDiCollection* KnownCollectionRegistry::getCollection(const IKyRxEnumeration* enumeration) {

@@ -1,21 +1,40 @@
 #include "manager/KnownCollectionRows.h"
 
+#include "collections/KyDiImpColorCollection.h"
 #include "collections/KyDiImpDataLayerStateCollection.h"
 #include "collections/KyDiImpDataLayoutItemCollection.h"
 #include "collections/KyDiImpDataMaterialItemCollection.h"
 #include "collections/KyDiImpDataPlotSettingsItemCollection.h"
+#include "collections/KyDiImpDataPlotStyleItemCollection.h"
+#include "collections/KyDiImpDataVisualStyleItemCollection.h"
 #include "collections/KyDiImpDictionaryItemCollection.h"
 #include "collections/KyDiImpLayerCollection.h"
 #include "collections/KyDiImpLineTypeCollection.h"
+#include "collections/KyDiImpRenderPresetCollection.h"
 #include "collections/KyDiImpSymbolTableItemCollection.h"
 #include "collections/KyDiImpUCSCollection.h"
 #include "collections/KyDiImpViewCollection.h"
 #include "collections/KyDiImpViewportCollection.h"
+#include "collections/KyDiPlotStyleTableCollectionImp.h"
+#include "currency/ColorCurrencyTracker.h"
 #include "currency/DataItemCurrencyTracker.h"
 #include "currency/LayerCurrencyTracker.h"
 #include "currency/LayerFilterCurrencyTracker.h"
 #include "currency/LayerStateCurrencyTracker.h"
+#include "currency/LayoutCurrencyTracker.h"
+#include "currency/LayoutNameCurrencyTracker.h"
+#include "currency/LayoutPageSetupCurrencyTracker.h"
+#include "currency/LayoutRasterDPICurrencyTracker.h"
+#include "currency/LineWeightCurrencyTracker.h"
+#include "currency/PlotAttachmentSpaceCurrencyTracker.h"
+#include "currency/PlotStyleCurrencyTracker.h"
+#include "currency/PlotStyleTableCurrencyTracker.h"
+#include "currency/PlotStyleTableTypeCurrencyTracker.h"
 #include "currency/RenderPresetCurrencyTracker.h"
+#include "currency/ScaleListCurrencyTracker.h"
+#include "currency/ShadowDisplayCurrencyTracker.h"
+#include "currency/SysvarCurrencyTracker.h"
+#include "currency/TransparencyCurrencyTracker.h"
 #include "currency/UCSCurrencyTracker.h"
 #include "currency/ViewCurrencyTracker.h"
 #include "currency/VisualStyleCurrencyTracker.h"
@@ -45,11 +64,12 @@ KyDiCurrencyTracker* newUcsTracker(const wchar_t* name, const wchar_t* /*sysVar*
     return new UCSCurrencyTracker(name, L"NAMEDVIEWS", L"", getCurrent, setCurrent);
 }
 
-KyDiCurrencyTracker* newLayerFilterTracker(const wchar_t* name, const wchar_t* sysVar,
-                                           const wchar_t* commandFormat,
-                                           KyDbIdGetter /*getCurrent*/,
-                                           KyDbIdSetter /*setCurrent*/) {
-    return new LayerFilterCurrencyTracker(name, sysVar, commandFormat);
+// A factory of a tracker class that reads no record id from the database.
+template <typename Tracker>
+KyDiCurrencyTracker* newValueTracker(const wchar_t* name, const wchar_t* sysVar,
+                                     const wchar_t* commandFormat, KyDbIdGetter /*getCurrent*/,
+                                     KyDbIdSetter /*setCurrent*/) {
+    return new Tracker(name, sysVar, commandFormat);
 }
 
 // The named views of the space the user is in, or the model views only.
@@ -72,6 +92,14 @@ template <typename Collection>
 KyDiImpCollection* newCollection(const wchar_t* name, KyDiCurrencyTracker* tracker,
                                  KyDbIdGetter /*getTableId*/) {
     return new Collection(name, tracker);
+}
+
+// The colour list outlives the documents.
+KyDiImpCollection* newColorCollection(const wchar_t* name, KyDiCurrencyTracker* tracker,
+                                      KyDbIdGetter /*getTableId*/) {
+    auto* colors = new KyDiImpColorCollection(name, tracker);
+    colors->setTraits(KyDiImpCollectionBase::kKeepItemsWhenUnbound);
+    return colors;
 }
 
 using Db = KyDbDatabase;
@@ -106,18 +134,21 @@ const KnownCollectionRow kRows[] = {
     {L"KYRO_MATERIAL", &newDataItemTracker, L"CMATERIAL", &Db::cmaterial, &Db::setCmaterial,
      &Db::materialDictionaryId, &newCollection<KyDiImpDataMaterialItemCollection>, nullptr,
      L"/MaterialDictionaryId/Items"},
-    {L"KYRO_LAYOUT", nullptr, L"CTAB", nullptr, nullptr, &Db::layoutDictionaryId,
-     &newCollection<KyDiImpDataLayoutItemCollection>, nullptr, L"LayoutDictionaryId/Items"},
+    {L"KYRO_LAYOUT", &newValueTracker<LayoutCurrencyTracker>, L"CTAB", nullptr, nullptr,
+     &Db::layoutDictionaryId, &newCollection<KyDiImpDataLayoutItemCollection>, nullptr,
+     L"LayoutDictionaryId/Items"},
     {L"KYRO_PLOTSETTINGS", nullptr, nullptr, nullptr, nullptr, &Db::plotSettingsDictionaryId,
      &newCollection<KyDiImpDataPlotSettingsItemCollection>, nullptr,
      L"plotSettingsDictionaryId/Items"},
     {L"KYRO_VISUALSTYLE", &newTracker<VisualStyleCurrencyTracker>, nullptr, nullptr, nullptr,
-     nullptr, nullptr, nullptr, L"/VisualStyleDictionaryId/Items"},
+     nullptr, &newCollection<KyDiImpDataVisualStyleItemCollection>, nullptr,
+     L"/VisualStyleDictionaryId/Items"},
     {L"KYRO_LAYERSTATES", &newTracker<LayerStateCurrencyTracker>, nullptr, nullptr, nullptr,
      nullptr, &newCollection<KyDiImpDataLayerStateCollection>, nullptr, nullptr},
     {L"NAMEDVIEWS", &newTracker<ViewCurrencyTracker>, nullptr, nullptr, nullptr, &Db::viewTableId,
      &newViewCollection<false>, nullptr, nullptr},
-    {L"KYRO_PLOTSTYLENAME", nullptr, L"CPLOTSTYLE", nullptr, nullptr, nullptr, nullptr, nullptr,
+    {L"KYRO_PLOTSTYLENAME", &newValueTracker<PlotStyleCurrencyTracker>, L"CPLOTSTYLE", nullptr,
+     nullptr, nullptr, &newCollection<KyDiImpDataPlotStyleItemCollection>, nullptr,
      L"/PlotStyleNameDictionaryId/Items"},
     {L"KYDI_DATAITEM_SELECTED_ITEMS", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
      nullptr},
@@ -128,19 +159,21 @@ const KnownCollectionRow kRows[] = {
     {L"COUNTING", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
      L"/Counting/Items"},
     {L"RENDER_PRESETS", &newTracker<RenderPresetCurrencyTracker>, nullptr, nullptr, nullptr,
-     nullptr, nullptr, nullptr, L"/RenderSettingsDictionary/Items"},
+     nullptr, &newCollection<KyDiImpRenderPresetCollection>, nullptr,
+     L"/RenderSettingsDictionary/Items"},
     {L"UCS_PLANES", &newUcsTracker, nullptr, nullptr, nullptr, &Db::UCSTableId,
      &newTableCollection<KyDiImpUCSCollection>, nullptr, nullptr},
-    {L"COLOR", nullptr, L"CECOLOR", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
-    {L"LAYERFILTERS", &newLayerFilterTracker, nullptr, nullptr, nullptr, nullptr, nullptr,
-     L"'_.-LAYER\n_Filter\n_Set\n\"%ls\"\n\n", nullptr},
+    {L"COLOR", &newValueTracker<ColorCurrencyTracker>, L"CECOLOR", nullptr, nullptr, nullptr,
+     &newColorCollection, nullptr, nullptr},
+    {L"LAYERFILTERS", &newValueTracker<LayerFilterCurrencyTracker>, nullptr, nullptr, nullptr,
+     nullptr, nullptr, L"'_.-LAYER\n_Filter\n_Set\n\"%ls\"\n\n", nullptr},
     {L"LAYERFILTER_TREE", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr},
-    {L"SCALELIST", nullptr, L"CANNOSCALE", nullptr, nullptr, nullptr, nullptr, nullptr,
-     L"/ScaleListDictionaryId/Items"},
+    {L"SCALELIST", &newValueTracker<ScaleListCurrencyTracker>, L"CANNOSCALE", nullptr, nullptr,
+     nullptr, nullptr, nullptr, L"/ScaleListDictionaryId/Items"},
     {L"BLOCK", nullptr, nullptr, nullptr, nullptr, &Db::blockTableId, nullptr, nullptr,
      L"/BlockTableId/Items"},
-    {L"PLOTSTYLETABLE", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-     L"/PlotStyleTable/Items"},
+    {L"PLOTSTYLETABLE", &newValueTracker<PlotStyleTableCurrencyTracker>, nullptr, nullptr, nullptr,
+     nullptr, &newCollection<KyDiPlotStyleTableCollectionImp>, nullptr, L"/PlotStyleTable/Items"},
     {L"VIEWPORT", nullptr, nullptr, nullptr, nullptr, &Db::viewportTableId,
      &newTableCollection<KyDiImpViewportCollection>, nullptr, L"/ViewportTableId/Items"},
     {L"NAMEDMODELVIEWS", &newTracker<ViewCurrencyTracker>, nullptr, nullptr, nullptr,
@@ -151,8 +184,43 @@ const KnownCollectionRow kRows[] = {
 static_assert(std::size(kRows) == 30, "the thirty known collections");
 
 const KnownEnumRow kEnumRows[] = {
-    {L"LINEWEIGHT", nullptr, L"CELWEIGHT", L"'_celweight\n%d\n"},
-    {L"SHADOWDISPLAY", nullptr, L"CSHADOW", L"'_cshadow\n%d\n"},
+    {L"LINEWEIGHT", &newValueTracker<LineWeightCurrencyTracker>, L"CELWEIGHT",
+     L"'_celweight\n%d\n"},
+    {L"SHADOWDISPLAY", &newValueTracker<ShadowDisplayCurrencyTracker>, L"CSHADOW",
+     L"'_cshadow\n%d\n"},
+    {nullptr, nullptr, nullptr, nullptr},
+};
+
+// The drawing values without a list of their own, as the drawing context
+// follows them. The generic rows write the variable directly: their command
+// formats are kept as they stand ("%d" also for reals, the short word of
+// VSEDGELEX) and never sent.
+constexpr NewTracker kGeneric = &newValueTracker<SysvarCurrencyTracker>;
+const DrawingTrackerRow kDrawingRows[] = {
+    {L"TRANSPARENCY", &newValueTracker<TransparencyCurrencyTracker>, L"CETRANSPARENCY",
+     L"'_cetransparency\n%ls\n"},
+    {L"LINETYPESCALE", kGeneric, L"CELTSCALE", L"'_celtscale\n%d\n"},
+    {L"TEXTSIZE", kGeneric, L"TEXTSIZE", L"'_textsize\n%d\n"},
+    {L"PLOTATTACHMENTSPACE", &newValueTracker<PlotAttachmentSpaceCurrencyTracker>, nullptr,
+     nullptr},
+    {L"PLOTSTYLETABLETYPE", &newValueTracker<PlotStyleTableTypeCurrencyTracker>, nullptr, nullptr},
+    {L"VSMATERIALMODE", kGeneric, L"VSMATERIALMODE", L"'_vsmaterialmode\n%d\n"},
+    {L"VSFACECOLORMODE", kGeneric, L"VSFACECOLORMODE", L"'_vsfacecolormode\n%d\n"},
+    {L"VSLIGHTINGQUALITY", kGeneric, L"VSLIGHTINGQUALITY", L"'_vslightingquality\n%d\n"},
+    {L"VSFACESTYLE", kGeneric, L"VSFACESTYLE", L"'_vsfacestyle\n%d\n"},
+    {L"VSEDGES", kGeneric, L"VSEDGES", L"'_vsedges\n%d\n"},
+    {L"VSEDGELEX", kGeneric, L"VSEDGELEX", L"'_vsedgele\n%d\n"},
+    {L"VSSILHWIDTH", kGeneric, L"VSSILHWIDTH", L"'_vssilhwidth\n%d\n"},
+    {L"VSEDGEJITTER", kGeneric, L"VSEDGEJITTER", L"'_vsedgejitter\n%d\n"},
+    {L"VSFACEOPACITY", kGeneric, L"VSFACEOPACITY", L"'_vsfaceopacity\n%d\n"},
+    {L"SUNSTATUS", kGeneric, L"SUNSTATUS", L"'_sunstatus\n%d\n"},
+    {L"RASTERDPI", &newValueTracker<LayoutRasterDPICurrencyTracker>, L"RASTERDPI",
+     L"'_rasterdpi\n%d\n"},
+    {L"LAYOUT", &newValueTracker<LayoutNameCurrencyTracker>, L"CTAB", nullptr},
+    {L"PAGESETUP", &newValueTracker<LayoutPageSetupCurrencyTracker>, nullptr, nullptr},
+    {L"TILEMODE", kGeneric, L"TILEMODE", L"'_tilemode\n%d\n"},
+    {L"UCSVP", kGeneric, L"UCSVP", L"'_ucsvp\n%d\n"},
+    {L"UCSNAME", kGeneric, L"UCSNAME", nullptr},
     {nullptr, nullptr, nullptr, nullptr},
 };
 
@@ -164,4 +232,8 @@ std::span<const KnownCollectionRow> KnownCollectionRows::staticRows() {
 
 const KnownEnumRow* KnownCollectionRows::enumRows() {
     return kEnumRows;
+}
+
+const DrawingTrackerRow* KnownCollectionRows::drawingTrackerRows() {
+    return kDrawingRows;
 }

@@ -43,6 +43,9 @@ struct KnownEnumRow {
     const wchar_t* sysVar = nullptr;
     const wchar_t* commandFormat = nullptr;
 };
+// A tracker of a value of the drawing that has no list of its own: the same
+// four fields.
+using DrawingTrackerRow = KnownEnumRow;
 
 class KnownCollectionRows {
 public:
@@ -50,4 +53,7 @@ public:
     static std::span<const KnownCollectionRow> staticRows();
     // The trackers over enumerated values, closed by a row with a null name.
     static const KnownEnumRow* enumRows();
+    // The trackers of the drawing context's values without a list, closed by
+    // a row with a null name.
+    static const DrawingTrackerRow* drawingTrackerRows();
 };

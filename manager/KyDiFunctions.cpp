@@ -121,6 +121,15 @@ void KyDiNotifyRecentBlockCollectionReset() {
     }
 }
 
+KyDiCurrencyTracker* KyDiGetCurrencyTracker(const wchar_t* name) {
+    // Nothing is made before initialize or after uninitialize.
+    const KyDiManagerState& state = kydiManagerState();
+    if (state.host == nullptr || state.managerShutDown) {
+        return nullptr;
+    }
+    return KnownCollectionRegistry::getCurrencyTracker(name, true);
+}
+
 KyDiKnownCollectionNames KyDiGetKnownCollectionNames() {
     const KyDiManagerState& state = kydiManagerState();
     KyDiKnownCollectionNames names;

@@ -27,7 +27,8 @@ KyAppValue colorValue(const KyCmColor& color) {
         return KyAppValue::bookColor(KyString(color.bookName()).utf8(),
                                      KyString(color.colorName()).utf8());
     }
-    if (color.isByACI()) {
+    // No colour at all prints as its index, 257, which no value reads back.
+    if (color.isByACI() || color.isNone()) {
         return KyAppValue::colorIndex(color.colorIndex());
     }
     return KyAppValue::trueColor(color.red(), color.green(), color.blue());

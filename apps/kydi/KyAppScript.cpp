@@ -6,6 +6,8 @@
 #include "KyAppCollectionWatch.h"
 #include "KyAppContextList.h"
 #include "KyAppContextWatch.h"
+#include "KyAppEnumCollectionWatch.h"
+#include "KyAppEnumCollections.h"
 #include "KyAppHostEventPrinter.h"
 #include "KyAppMemberList.h"
 #include "KyAppObjectWatch.h"
@@ -18,17 +20,20 @@
 #include "KyRefHost.h"
 #include "KyRefManualClock.h"
 #include "base/KyRxResourceInstance.h"
+#include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbHandle.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbSymbolTable.h"
 #include "kydi/KyDiContext.h"
+#include "kydi/KyDiCurrencyTracker.h"
 #include "kydi/KyDiDataItemFactory.h"
 #include "kydi/KyDiDynamicObject.h"
 #include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiLayerService.h"
 #include "kydi/KyDiManager.h"
 #include "kydi/KyDiObservableCollection.h"
+#include "kydi/KyDiObservableEnumCollection.h"
 #include "kydi/KyDiSysVar.h"
 #include "rx/KyRxProperty.h"
 
@@ -85,6 +90,7 @@ KyAppScript::~KyAppScript() {
     m_sysVarWatches.clear();
     m_objectWatches.clear();
     m_collectionWatches.clear();
+    m_enumWatches.clear();
     m_contextWatches.clear();
     if (m_hostPrinter != nullptr) {
         m_session.host().removeReactor(m_hostPrinter.get());
@@ -362,6 +368,9 @@ bool KyAppScript::watch(const KyAppStatement& statement) {
         return true;
     }
     if (what == "collection" && !name.empty()) {
+        if (const IKyRxEnumeration* values = KyAppEnumCollections::find(name)) {
+            return watchEnumCollection(name, values);
+        }
         KyDiObservableCollection* collection =
             KyDiManager::getKnownCollection(KyString::fromUtf8(name));
         if (collection == nullptr) {
@@ -467,7 +476,7 @@ bool KyAppScript::objectOf(const KyAppWord& word, KyDbObjectId& id, std::string&
     return true;
 }
 
-KyDiDynamicObject* KyAppScript::itemOf(KyDiObservableCollection* collection,
+KyDiDynamicObject* KyAppScript::itemOf(KyDiCollection* collection,
                                        const std::string& collectionName, const std::string& name,
                                        std::string& error) {
     const KyString wanted = KyString::fromUtf8(name);
@@ -513,8 +522,21 @@ bool KyAppScript::propertyStatement(const KyAppStatement& statement, KyDiDynamic
     return true;
 }
 
+void KyAppScript::printItems(const KyDiCollection* collection) {
+    const KyDiItemArray& items = collection->getItems();
+    for (int i = 0; i < items.length(); ++i) {
+        KyRxValue value;
+        items[i]->value(value);
+        m_out << KyAppCollectionWatch::itemText(items[i]) << ' '
+              << KyAppPropertyValue::format(value) << '\n';
+    }
+}
+
 bool KyAppScript::collectionStatement(const KyAppStatement& statement) {
     const std::string& name = statement.words[0].text;
+    if (const IKyRxEnumeration* values = KyAppEnumCollections::find(name)) {
+        return enumStatement(statement, KyDiManager::getCollection(values));
+    }
     KyDiObservableCollection* collection =
         KyDiManager::getKnownCollection(KyString::fromUtf8(name));
     std::string error;
@@ -522,13 +544,7 @@ bool KyAppScript::collectionStatement(const KyAppStatement& statement) {
         return fail("unknown collection " + name);
     }
     if (statement.name == "items") {
-        const KyDiItemArray& items = collection->getItems();
-        for (int i = 0; i < items.length(); ++i) {
-            KyRxValue value;
-            items[i]->value(value);
-            m_out << KyAppCollectionWatch::itemText(items[i]) << ' '
-                  << KyAppPropertyValue::format(value) << '\n';
-        }
+        printItems(collection);
         return true;
     }
     if (statement.name == "current") {
@@ -549,6 +565,68 @@ bool KyAppScript::collectionStatement(const KyAppStatement& statement) {
     }
     KyDiDynamicObject* item = itemOf(collection, name, statement.words[1].text, error);
     return item != nullptr ? propertyStatement(statement, item, 2) : fail(error);
+}
+
+bool KyAppScript::enumStatement(const KyAppStatement& statement, KyDiCollection* collection) {
+    const std::string& name = statement.words[0].text;
+    if (collection == nullptr) {
+        return fail("unknown collection " + name);
+    }
+    if (statement.name == "items") {
+        printItems(collection);
+        return true;
+    }
+    std::string error;
+    KyDiDynamicObject* item = statement.words.size() > 1
+                                  ? itemOf(collection, name, statement.words[1].text, error)
+                                  : nullptr;
+    if (statement.words.size() > 1 && item == nullptr) {
+        return fail(error);
+    }
+    if (statement.name != "current") {
+        return propertyStatement(statement, item, 2);
+    }
+    // A collection with a current item answers as of the last refresh; a
+    // plain list's tracker answers as of now.
+    auto* observable = dynamic_cast<KyDiObservableEnumCollection*>(collection);
+    KyDiCurrencyTracker* tracker =
+        observable == nullptr ? KyDiGetCurrencyTracker(KyString::fromUtf8(name)) : nullptr;
+    if (observable == nullptr && tracker == nullptr) {
+        return fail(name + " has no current item");
+    }
+    if (item == nullptr) {
+        m_out << name << ' '
+              << KyAppCollectionWatch::itemText(observable != nullptr ? observable->getCurrentItem()
+                                                                      : tracker->getCurrentItem())
+              << '\n';
+        return true;
+    }
+    if (observable != nullptr) {
+        observable->setCurrentItem(item);
+        return true;
+    }
+    // The lock a collection takes for its tracker.
+    const KyAxDocLock lock;
+    if (lock.lockStatus() != Kyro::eOk) {
+        return fail(name + " can't be set: " + statusText(lock.lockStatus()));
+    }
+    tracker->setCurrentItem(item);
+    return true;
+}
+
+bool KyAppScript::watchEnumCollection(const std::string& name, const IKyRxEnumeration* values) {
+    auto* observable =
+        dynamic_cast<KyDiObservableEnumCollection*>(KyDiManager::getCollection(values));
+    if (observable == nullptr) {
+        return fail(name + " never changes: its items are fixed and it has no current item");
+    }
+    for (const auto& watch : m_enumWatches) {
+        if (watch->name() == name) {
+            return true;
+        }
+    }
+    m_enumWatches.push_back(std::make_unique<KyAppEnumCollectionWatch>(name, observable, m_out));
+    return true;
 }
 
 bool KyAppScript::collections(const KyAppStatement&) {

@@ -27,7 +27,9 @@
 //   collections        the names of the known collections: built, can be made, or not
 //                      available in this build
 //   items COLLECTION, current COLLECTION [ITEM], get COLLECTION ITEM PROPERTY,
-//   set COLLECTION ITEM PROPERTY VALUE
+//   set COLLECTION ITEM PROPERTY VALUE   (a known collection, or the values of an
+//                      enumeration: LINEWEIGHT, with a current item, and SHADOWDISPLAY,
+//                      whose tracker answers the current one)
 //   contexts           the contexts by name, with priority and activity
 //   context NAME [PROPERTY [VALUE]]  a context's properties, or one read or written
 #pragma once
@@ -41,10 +43,12 @@
 
 #include "KyAppStatement.h"
 
+class IKyRxEnumeration;
 class KyAppCollectionWatch;
 class KyAppContextWatch;
+class KyAppEnumCollectionWatch;
 class KyAppHostEventPrinter;
-class KyDiObservableCollection;
+class KyDiCollection;
 class KyAppObjectWatch;
 class KyDbObjectId;
 class KyDiDynamicObject;
@@ -85,9 +89,8 @@ private:
     bool objectOf(const KyAppWord& word, KyDbObjectId& id, std::string& error);
     // The item `name` of a collection, by its display name; null with
     // `error` when there is none.
-    KyDiDynamicObject* itemOf(KyDiObservableCollection* collection,
-                              const std::string& collectionName, const std::string& name,
-                              std::string& error);
+    KyDiDynamicObject* itemOf(KyDiCollection* collection, const std::string& collectionName,
+                              const std::string& name, std::string& error);
     // Reads (or, with a value after it, writes) the property named by word
     // `at` of `item`; the word before names the item.
     bool propertyStatement(const KyAppStatement& statement, KyDiDynamicObject* item,
@@ -113,6 +116,13 @@ private:
     bool members(const KyAppStatement& statement);
     bool collections(const KyAppStatement& statement);
     bool collectionStatement(const KyAppStatement& statement);
+    // Each item of `collection` with its value, one a line.
+    void printItems(const KyDiCollection* collection);
+    // items, current, get and set on the collection of an enumeration.
+    bool enumStatement(const KyAppStatement& statement, KyDiCollection* collection);
+    // watch collection for the collection of an enumeration: only one with a
+    // current item can change.
+    bool watchEnumCollection(const std::string& name, const IKyRxEnumeration* values);
     bool prompts(const KyAppStatement& statement);
     bool answer(const KyAppStatement& statement);
     bool contexts(const KyAppStatement& statement);
@@ -124,6 +134,7 @@ private:
     std::vector<std::unique_ptr<KyAppSysVarWatch>> m_sysVarWatches;
     std::vector<std::unique_ptr<KyAppObjectWatch>> m_objectWatches;
     std::vector<std::unique_ptr<KyAppCollectionWatch>> m_collectionWatches;
+    std::vector<std::unique_ptr<KyAppEnumCollectionWatch>> m_enumWatches;
     std::vector<std::unique_ptr<KyAppContextWatch>> m_contextWatches;
     bool m_anyFailed = false;
 };

@@ -7,6 +7,7 @@
 #include "db/KyDbObjectId.h"
 #include "kydi/KyDiExport.h"
 
+class KyDiCurrencyTracker;
 class KyDiDynamicObject;
 class KyRxMember;
 class KyRxMemberIterator;
@@ -64,3 +65,12 @@ struct KyDiKnownCollectionName {
 using KyDiKnownCollectionNames =
     KyArray<KyDiKnownCollectionName, KyArrayObjectCopyReallocator<KyDiKnownCollectionName>>;
 KYDI_API KyDiKnownCollectionNames KyDiGetKnownCollectionNames();
+
+// The tracker that follows the current item of `name`: of a known collection
+// ("LAYER", "COLOR"), of an enumeration ("LINEWEIGHT", "SHADOWDISPLAY") or of a
+// value of the drawing without a list ("TRANSPARENCY", "LAYOUT", "RASTERDPI"
+// ...). Made at its first demand and kept until uninitialize; the manager
+// owns it. Null for a name that no table knows, and after uninitialize. Its
+// getCurrentItem answers as of now; a caller of its setCurrentItem takes the
+// document lock that a collection's setCurrentItem takes.
+KYDI_API KyDiCurrencyTracker* KyDiGetCurrencyTracker(const wchar_t* name);

@@ -1,9 +1,13 @@
 #include "manager/host/DataItemHostReactor.h"
 
+#include <vector>
+
 #include "collections/KyDiImpCollectionBase.h"
 #include "contexts/KyDiContextBase.h"
 #include "contexts/KyDiContextManagerImp.h"
 #include "currency/DataItemCurrencyTrackerBase.h"
+#include "currency/LayoutCurrencyTrackerBase.h"
+#include "currency/PlotCurrencyTrackerBase.h"
 #include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiObservableEnumCollection.h"
@@ -24,6 +28,22 @@ template <typename Mark>
 void markCollections(Mark mark) {
     for (const auto& [name, collection] : kydiManagerState().knownCollections) {
         mark(*static_cast<KyDiImpCollectionBase*>(collection->imp()));
+    }
+}
+
+// Tells the reactors of every tracker of the kind `Tracker`, in name order.
+// A reactor may make a collection, and with it a tracker: the walk goes over
+// the trackers that stood at its start.
+template <typename Tracker>
+void notifyTrackersOf() {
+    std::vector<Tracker*> trackers;
+    for (const auto& [name, tracker] : kydiManagerState().currencyTrackers) {
+        if (auto* kind = dynamic_cast<Tracker*>(tracker)) {
+            trackers.push_back(kind);
+        }
+    }
+    for (Tracker* tracker : trackers) {
+        tracker->notifyReactors();
     }
 }
 
@@ -98,8 +118,8 @@ void DataItemHostReactor::sysVarWillChange(const wchar_t* /*name*/) {}
 void DataItemHostReactor::commandWillStart(const wchar_t* /*globalCommandName*/) {}
 
 // The events below only mark the known collections (and, as they come, the
-// effective properties, the built contexts and the trackers of plot settings
-// and layouts); the refresh pass does the rest.
+// effective properties and the built contexts) or the trackers of plot
+// settings and layouts; the refresh pass does the rest.
 void DataItemHostReactor::hostStateChanged() {
     markCollections([](KyDiImpCollectionBase& collection) { collection.subHostStateChanged(); });
 }
@@ -129,13 +149,17 @@ void DataItemHostReactor::ucsChanged() {
     markCollections([](KyDiImpCollectionBase& collection) { collection.subUcsChanged(); });
 }
 
-void DataItemHostReactor::plotSettingsChanged() {}
+void DataItemHostReactor::plotSettingsChanged() {
+    notifyTrackersOf<PlotCurrencyTrackerBase>();
+}
 
 void DataItemHostReactor::plotSettingsChangedForLayout(const wchar_t* /*layoutName*/) {
     plotSettingsChanged();
 }
 
-void DataItemHostReactor::layoutChanged() {}
+void DataItemHostReactor::layoutChanged() {
+    notifyTrackersOf<LayoutCurrencyTrackerBase>();
+}
 
 void DataItemHostReactor::documentBecameQuiet(KyDiDocument document) {
     if (document != KyDiHostAccess::currentDocument()) {

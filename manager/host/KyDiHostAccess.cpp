@@ -43,6 +43,16 @@ KyDiLayerService* KyDiHostAccess::layerService() {
     return current != nullptr ? current->layerService() : nullptr;
 }
 
+KyDiPlotService* KyDiHostAccess::plotService() {
+    KyDiHost* current = host();
+    return current != nullptr ? current->plotService() : nullptr;
+}
+
+KyDiColorService* KyDiHostAccess::colorService() {
+    KyDiHost* current = host();
+    return current != nullptr ? current->colorService() : nullptr;
+}
+
 KyDiExternalReferenceHost* KyDiHostAccess::xrefHost() {
     return kydiManagerState().xrefHost;
 }

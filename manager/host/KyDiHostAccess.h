@@ -5,11 +5,13 @@
 #include "kydi/KyDiTypes.h"
 
 class KyDbDatabase;
+class KyDiColorService;
 class KyDiDocumentManager;
 class KyDiEditorService;
 class KyDiExternalReferenceHost;
 class KyDiHost;
 class KyDiLayerService;
+class KyDiPlotService;
 class KyDiRenderService;
 class KyDiUcsService;
 class KyDiViewportService;
@@ -27,6 +29,8 @@ public:
     static KyDiUcsService* ucsService();
     static KyDiRenderService* renderService();
     static KyDiLayerService* layerService();
+    static KyDiPlotService* plotService();
+    static KyDiColorService* colorService();
     static KyDiExternalReferenceHost* xrefHost();
 
     // The current document: the document manager's answer, except that the

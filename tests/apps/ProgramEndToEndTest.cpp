@@ -119,6 +119,10 @@ TEST_F(Program, ALinetypeMadeCurrentThroughItsCollectionComesBackAndASwitchReset
     expectScript("linetype_current", 0);
 }
 
+TEST_F(Program, ALineweightLeavesAsACommandAColourIsWrittenAndShadowsAreAFixedList) {
+    expectScript("lineweight_color", 1);
+}
+
 TEST_F(Program, MembersOfALayerShowTheirLocalNamesInEitherLanguage) {
     expectScript("members", 0);
 }

@@ -10,6 +10,7 @@
 #include "kydi/KyDiCurrencyTracker.h"
 #include "kydi/KyDiDataItemFactory.h"
 #include "kydi/KyDiFunctions.h"
+#include "kydi/KyDiObservableEnumCollection.h"
 #include "manager/KnownCollectionRegistry.h"
 #include "manager/KyDiManagerState.h"
 #include "rx/KyRxValue.h"
@@ -31,16 +32,30 @@ TEST_F(Registry, NamesArePreciseAndEachRowServesOnceItsClassExists) {
           L"KYRO_PLOTSETTINGS"}) {
         EXPECT_NE(known(name), nullptr) << KyString(name).utf8();
     }
-    // Each of these has a tracker; the layouts' and the plot settings' have
-    // none (yet, and at all).
+    // Each of these has a tracker but the plot settings.
     auto& trackers = kydiManagerState().currencyTrackers;
     EXPECT_NE(trackers[L"KYRO_MATERIAL"], nullptr);
-    EXPECT_EQ(trackers.count(L"KYRO_LAYOUT"), 0U);
+    EXPECT_NE(trackers[L"KYRO_LAYOUT"], nullptr);
     EXPECT_EQ(trackers.count(L"KYRO_PLOTSETTINGS"), 0U);
-    EXPECT_EQ(known(L"KYRO_LAYOUT")->getCurrentItem(), nullptr);
+    EXPECT_EQ(kytest::itemName(known(L"KYRO_LAYOUT")->getCurrentItem()), "Model");
     // A row whose class comes later answers null, as a name without a row.
     EXPECT_EQ(known(L"BLOCK"), nullptr);
     EXPECT_EQ(known(L"NOSUCHTHING"), nullptr);
+}
+
+TEST_F(Registry, TrackersAreFoundByNameAlsoWithoutAList) {
+    // A known collection's, a drawing value's, an enumeration's.
+    for (const wchar_t* name : {L"COLOR", L"LAYOUT", L"KYRO_LAYOUT", L"SHADOWDISPLAY"}) {
+        KyDiCurrencyTracker* tracker = KyDiGetCurrencyTracker(name);
+        EXPECT_NE(tracker, nullptr) << KyString(name).utf8();
+        EXPECT_EQ(KnownCollectionRegistry::getCurrencyTracker(name, false), tracker);
+    }
+    EXPECT_NE(KyDiGetCurrencyTracker(L"LAYOUT"), KyDiGetCurrencyTracker(L"KYRO_LAYOUT"));
+    EXPECT_EQ(KyDiGetCurrencyTracker(L"layout"), nullptr);
+    EXPECT_EQ(KyDiGetCurrencyTracker(L"KYRO_PLOTSETTINGS"), nullptr) << "a row without a tracker";
+    EXPECT_FALSE(kydiManagerState().knownCollections.contains(L"COLOR")) << "no list is made";
+    stop();
+    EXPECT_EQ(KyDiGetCurrencyTracker(L"COLOR"), nullptr);
 }
 
 TEST_F(Registry, PathsAreTakenAsTheRowsSpellThem) {
@@ -89,10 +104,13 @@ TEST_F(Registry, EnumerationsGiveTheirValuesAsItemsAndBitFlagsStayValues) {
     KyRxValue value(KyDb::kShadowsIgnore);
     KyDiConvertToDataItem(value);
     EXPECT_EQ(value, KyRxValue(KyDb::kShadowsIgnore)) << "flags stay a value";
-    // The lineweights have a tracker of their own, which comes later: until
-    // then there is no collection and a weight stays a value.
+    // The lineweights have a tracker of their own: their collection has a
+    // current item.
     const IKyRxEnumeration* weights = KyRxValueType::Desc<KyDb::LineWeight>::value().enumeration();
-    EXPECT_EQ(KyDiManager::getCollection(weights), nullptr);
+    auto* lineweights =
+        dynamic_cast<KyDiObservableEnumCollection*>(KyDiManager::getCollection(weights));
+    ASSERT_NE(lineweights, nullptr);
+    EXPECT_EQ(kytest::itemName(lineweights->getCurrentItem()), "ByLayer");
     EXPECT_EQ(KyDiManager::getCollection(nullptr), nullptr);
 }
 

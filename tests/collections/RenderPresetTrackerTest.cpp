@@ -6,15 +6,12 @@
 
 #include "KyRefRenderService.h"
 #include "collections/CollectionFixture.h"
-#include "collections/KyDiImpDictionaryItemCollection.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbRenderSettings.h"
 #include "kydi/KyDiCurrencyTracker.h"
 #include "kydi/KyDiDataItemFactory.h"
 #include "manager/KnownCollectionRegistry.h"
-#include "manager/KyDiManagerState.h"
-#include "manager/host/KyDiHostAccess.h"
 #include "rx/KyRxValue.h"
 
 namespace {
@@ -49,19 +46,13 @@ TEST_F(RenderPresets, APresetIsMadeCurrentByNameThroughTheService) {
     tracker()->setCurrentItem(nullptr);
     EXPECT_EQ(applied(), (Lines{"Studio"}));
     EXPECT_EQ(sentTexts(), std::vector<std::wstring>{}) << "no command";
-    EXPECT_EQ(tracker()->getCurrentItem(), nullptr) << "no list of presets yet";
+    EXPECT_EQ(kytest::itemName(tracker()->getCurrentItem()), "Studio");
 }
 
 TEST_F(RenderPresets, TheCurrentPresetIsWatchedAndAChangedOneIsMadeCurrentAfresh) {
     const KyDbObjectId studio = addRenderPreset(L"Studio");
     const KyDbObjectId daylight = addRenderPreset(L"Daylight");
-    // Until the presets have a list class of their own, the entries of their
-    // dictionary stand in for it, with the row's tracker.
-    auto* presets = new KyDiObservableCollection(
-        new KyDiImpDictionaryItemCollection(L"KYRO_RENDER_SETTINGS", tracker()));
-    kydiManagerState().knownCollections[L"RENDER_PRESETS"] = presets;
-    static_cast<KyDiImpCollectionBase*>(presets->imp())
-        ->bindToDocument(KyDiHostAccess::currentDocument());
+    KyDiObservableCollection* presets = known(L"RENDER_PRESETS");
     EXPECT_EQ(presets->getCurrentItem(), nullptr) << "the host's own Medium has no record";
     pass();
     ContractChecker checker(presets, "RENDER_PRESETS");

@@ -3,10 +3,9 @@
 // their reactor list, and collections that share one.
 #include <gtest/gtest.h>
 
-#include "collections/CollectionFixture.h"
+#include "collections/TrackerFixture.h"
 #include "currency/DataItemCurrencyTracker.h"
 #include "db/KyDbDatabase.h"
-#include "kydi/KyDiCurrencyReactor.h"
 #include "kydi/KyDiEffectiveValue.h"
 #include "kydi/KyDiFunctions.h"
 #include "manager/KnownCollectionRegistry.h"
@@ -16,13 +15,8 @@ namespace {
 
 using kytest::CollectionSpy;
 using kytest::ContractChecker;
+using Counter = kytest::CurrencyCounter;
 using Lines = std::vector<std::string>;
-
-class Counter final : public KyDiCurrencyReactor {
-public:
-    void currencyChanged() override { ++count; }
-    int count = 0;
-};
 
 class Trackers : public kytest::CollectionFixture {};
 
@@ -91,9 +85,10 @@ TEST_F(Trackers, CollectionsThatShareATrackerLookAgainWhenOneOfThemResets) {
 }
 
 TEST_F(Trackers, SetCurrentItemDoesNothingWithoutATrackerOrForAnInactiveCollection) {
-    KyDiObservableCollection* layouts = known(L"KYRO_LAYOUT");
+    KyDiObservableCollection* pageSetups = known(L"KYRO_PLOTSETTINGS");
     KyDiObservableCollection* linetypes = known(L"LINETYPE");
-    layouts->setCurrentItem(layouts->getItems()[0]);
+    ASSERT_FALSE(pageSetups->hasTracker());
+    pageSetups->setCurrentItem(nullptr);
     KyDiDynamicObject* continuous = linetypes->getItems().last();
     host.documents().closeDocument(host.documents().current());
     host.documents().releaseClosedDocuments();

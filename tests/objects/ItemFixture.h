@@ -17,6 +17,7 @@
 #include "refhost/DrawingContent.h"
 #include "rx/KyRxMemberQueryEngine.h"
 #include "rx/KyRxProperty.h"
+#include "support/ColorValues.h"
 
 namespace kytest {
 
@@ -57,15 +58,9 @@ protected:
         KyDiDynamicObject* const* item = valueCast<KyDiDynamicObject*>(&value);
         return item != nullptr ? *item : nullptr;
     }
-    static KyCmColor indexColor(unsigned short index) {
-        KyCmColor color;
-        color.setColorIndex(index);
-        return color;
-    }
+    static KyCmColor indexColor(unsigned short index) { return kytest::indexColor(index); }
     static KyCmColor trueColor(unsigned char red, unsigned char green, unsigned char blue) {
-        KyCmColor color;
-        color.setRGB(red, green, blue);
-        return color;
+        return kytest::trueColor(red, green, blue);
     }
 };
 

@@ -185,7 +185,8 @@ TEST_F(Wrappers, HostValuesBecomeDataItems) {
     EXPECT_EQ(KyDiGetItemName(item), trueColor(1, 2, 3).colorNameForDisplay());
     value = KyRxValue(KyDb::kLnWt025);
     EXPECT_TRUE(KyDiConvertToDataItem(value));
-    EXPECT_EQ(value, KyRxValue(KyDb::kLnWt025)) << "an enumerated value stays a value";
+    EXPECT_EQ(KyDiGetItemName(itemIn(value)), KyString(L"0.25 mm"))
+        << "an enumerated value becomes the item of its tag";
 }
 
 TEST_F(Wrappers, APalettesFilterKeepsPlacedScalarPropertiesThatCanBeReadNow) {

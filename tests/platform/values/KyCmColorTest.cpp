@@ -6,20 +6,12 @@
 
 #include "base/KyRxResourceInstance.h"
 #include "rx/KyRxValue.h"
+#include "support/ColorValues.h"
 
 namespace {
 
-KyCmColor indexColor(unsigned short index) {
-    KyCmColor color;
-    color.setColorIndex(index);
-    return color;
-}
-
-KyCmColor trueColor(unsigned char red, unsigned char green, unsigned char blue) {
-    KyCmColor color;
-    color.setRGB(red, green, blue);
-    return color;
-}
+using kytest::indexColor;
+using kytest::trueColor;
 
 TEST(KyCmColorMethod, ANewColorIsByLayer) {
     const KyCmColor color;

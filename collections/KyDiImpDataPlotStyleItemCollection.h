@@ -1,0 +1,29 @@
+// Not part of the interface: the named plot styles a new object can take
+// ("KYRO_PLOTSTYLENAME"). The list exists only in drawings with named plot
+// styles. It begins with the reserved names ByLayer, ByBlock and Normal in
+// the user's language (each the dictionary's entry when the drawing has one,
+// or else an item of no record), then the styles that the current plot style
+// table offers and the drawing's dictionary holds, in dictionary order. A
+// change of the current table turns the next update into one reset.
+#pragma once
+
+#include "collections/KyDiImpDictionaryItemCollection.h"
+
+class KyDiImpDataPlotStyleItemCollection : public KyDiImpDictionaryItemCollection {
+public:
+    using KyDiImpDictionaryItemCollection::KyDiImpDictionaryItemCollection;
+
+    // Also false in a drawing with colour-dependent plot styles.
+    bool isActive() const override;
+    // The list of the table is to be read anew.
+    void markTableChanged() { m_plotStyleTableChanged = true; }
+    // Once after the table changed.
+    bool subTooManyChanges() const override;
+    bool subFillFromDatabase(bool initial, KyDbDatabase* db, KyDbObjectId& owner,
+                             KyDiItemArray& list, KyArray<KyDbObjectId>& erased,
+                             void** context) override;
+
+private:
+    // Asked, and cleared, by the update that follows.
+    mutable bool m_plotStyleTableChanged = false;
+};

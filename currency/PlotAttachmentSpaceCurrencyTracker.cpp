@@ -1,0 +1,7 @@
+#include "currency/PlotAttachmentSpaceCurrencyTracker.h"
+
+#include "kydi/KyDiPlotService.h"
+
+void PlotAttachmentSpaceCurrencyTracker::getValue(KyRxValue& out) {
+    readPlotText(&KyDiPlotService::getPlotAttachmentSpace, out);
+}
