@@ -22,9 +22,11 @@ class PlotStyles : public kytest::CollectionFixture {
 protected:
     void SetUp() override {
         CollectionFixture::SetUp();
-        // The sample's dictionary holds Normal, Thin and Bold.
+        // The sample's dictionary holds Normal, Thin and Bold; its model
+        // layout plots with standard.stb.
+        host.plotService()->setNamedTables({KyString(L"standard.stb"), KyString(L"Grayscale.stb")});
         host.plotService()->setTableStyles(
-            KyString(L"Default.stb"),
+            KyString(L"standard.stb"),
             {KyString(L"Normal"), KyString(L"Thin"), KyString(L"Missing")});
         host.plotService()->setTableStyles(KyString(L"Grayscale.stb"),
                                            {KyString(L"Normal"), KyString(L"Bold")});
@@ -73,8 +75,8 @@ TEST_F(PlotStyles, AnotherTableResetsTheStyleListOnce) {
     ContractChecker tableChecker(offered, "PLOTSTYLETABLE");
     CollectionSpy styleSpy(list);
     CollectionSpy tableSpy(offered);
-    EXPECT_EQ(names(offered), (Lines{"Default.stb", "Grayscale.stb"}));
-    EXPECT_EQ(itemName(offered->getCurrentItem()), "Default.stb");
+    EXPECT_EQ(names(offered), (Lines{"standard.stb", "Grayscale.stb"})) << "in the host's order";
+    EXPECT_EQ(itemName(offered->getCurrentItem()), "standard.stb");
 
     offered->setCurrentItem(item(offered, "Grayscale.stb"));
     pass();
