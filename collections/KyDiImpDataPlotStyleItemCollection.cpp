@@ -58,6 +58,15 @@ bool KyDiImpDataPlotStyleItemCollection::subTooManyChanges() const {
     return std::exchange(m_plotStyleTableChanged, false);
 }
 
+void KyDiImpDataPlotStyleItemCollection::requestCurrencyCheck() {
+    KyDiImpDictionaryItemCollection::requestCurrencyCheck();
+    KyDiPlotService* plot = KyDiHostAccess::plotService();
+    KyString table;
+    if (plot != nullptr && plot->getPlotStyleTable(table) && table.compare(m_filledTable) != 0) {
+        markTableChanged();
+    }
+}
+
 bool KyDiImpDataPlotStyleItemCollection::subFillFromDatabase(bool /*initial*/, KyDbDatabase* db,
                                                              KyDbObjectId& owner,
                                                              KyDiItemArray& list,
@@ -75,6 +84,9 @@ bool KyDiImpDataPlotStyleItemCollection::subFillFromDatabase(bool /*initial*/, K
     KyArray<KyString> names(0, 16);
     if (!plot->getPlotStyleNames(db, owner, names)) {
         return false;
+    }
+    if (!plot->getPlotStyleTable(m_filledTable)) {
+        m_filledTable = KyString();
     }
     owner = db->plotStyleNameDictionaryId();
     KyDbObjectPointer<KyDbDictionary> dictionary(owner, KyDb::kForRead);

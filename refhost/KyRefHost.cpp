@@ -3,10 +3,12 @@
 #include "KyRefHostApplicationServices.h"
 #include "KyRefLayoutViewports.h"
 #include "KyRefManualClock.h"
+#include "KyRefReadAccess.h"
 #include "KyRefSysVarTable.h"
 #include "KyRefVariablesDictionary.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
+#include "db/KyDbLayout.h"
 
 namespace {
 
@@ -167,10 +169,12 @@ void KyRefHost::raiseVariableChanges(const std::vector<KyString>& names) {
               name.compareNoCase(L"UCSXDIR") == 0 || name.compareNoCase(L"UCSYDIR") == 0;
         resolution = resolution || name.compareNoCase(L"VIEWRES") == 0;
     }
-    if (!isGatheringChanges() && raisePlotSettingsChanges()) {
-        layout = true;
+    const bool plotSettings = !isGatheringChanges() && raisePlotSettingsChanges();
+    if (layout && !plotSettings) {
+        // Another layout is current: the plot settings in effect are its own.
+        raisePlotSettingsOfCurrentLayout();
     }
-    if (layout) {
+    if (layout || plotSettings) {
         m_events.raiseLayoutChanged();
     }
     if (ucs) {
@@ -203,6 +207,14 @@ void KyRefHost::drawingVariableChanged(KyRefDocument&, const wchar_t*) {
 void KyRefHost::plotSettingsModified() {
     if (!isGatheringChanges() && raisePlotSettingsChanges()) {
         m_events.raiseLayoutChanged();
+    }
+}
+
+void KyRefHost::raisePlotSettingsOfCurrentLayout() {
+    m_events.raisePlotSettingsChanged();
+    KyRefReadAccess<KyDbLayout> layout(kydbCurrentLayoutId(m_documents->currentDatabase()));
+    if (layout) {
+        m_events.raisePlotSettingsChangedForLayout(layout->layoutName());
     }
 }
 

@@ -12,8 +12,9 @@
 // item layer under its own lock) is told at once: sysVarWillChange, then
 // sysVarChanged(name, true) for every variable whose value changed by it (a
 // refused write: sysVarChanged(name, false)). Inside a command the changes
-// are told once, when the command ends. A change of CTAB is followed by
-// layoutChanged, of the current UCS (UCSNAME, UCSORG, UCSXDIR, UCSYDIR) by
+// are told once, when the command ends. A change of CTAB is followed by the
+// plot settings events of the layout now current (its settings are in
+// effect) and layoutChanged, of the current UCS (UCSNAME, UCSORG, UCSXDIR, UCSYDIR) by
 // one ucsChanged, of the view resolution (VIEWRES) by a regeneration.
 //
 // Plot settings. A change of a layout's plot style table, page setup or
@@ -159,6 +160,9 @@ private:
     // Raises the plot settings events of the changes the documents' watches
     // hold; true when there was one.
     bool raisePlotSettingsChanges();
+    // Raises the plot settings events for the layout now current, whose
+    // settings are in effect once it is made current.
+    void raisePlotSettingsOfCurrentLayout();
 
     KyRefHostEvents m_events;
     KyRefCommandLine m_commandLine;

@@ -90,6 +90,25 @@ TEST_F(PlotStyles, AnotherTableResetsTheStyleListOnce) {
     tableChecker.expectInStep();
 }
 
+TEST_F(PlotStyles, AnotherLayoutPlotsWithItsOwnTableAndResetsTheList) {
+    host.plotService()->setTableStyles(KyString(L"monochrome.stb"),
+                                       {KyString(L"Normal"), KyString(L"Bold")});
+    KyDiObservableCollection* list = styles();
+    pass();
+    ContractChecker checker(list, "KYRO_PLOTSTYLENAME");
+    CollectionSpy spy(list);
+    ASSERT_TRUE(host.plotService()->setLayoutByName(KyString(L"Plan")));
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"collectionReset", "currentItemChanged ByLayer"}))
+        << "no table change was told to a table list: the list finds it itself";
+    EXPECT_EQ(names(list), (Lines{"ByLayer", "ByBlock", "Normal", "Bold"}));
+    ASSERT_TRUE(host.plotService()->setLayoutByName(KyString(L"Details")));
+    pass();
+    EXPECT_EQ(spy.take(), (Lines{"collectionReset", "currentItemChanged ByLayer"}));
+    EXPECT_EQ(names(list), (Lines{"ByLayer", "ByBlock", "Normal", "Thin"}));
+    checker.expectInStep();
+}
+
 TEST_F(PlotStyles, TheReservedNamesAreInTheUsersLanguage) {
     KyRxResourceInstance::setLanguage(L"de");
     KyDiObservableCollection* list = styles();

@@ -65,10 +65,12 @@ TEST_F(CommandEventsTest, AnEmptyAnswerKeepsTheValue) {
 
 TEST_F(CommandEventsTest, EveryVariableThatChangedIsReportedInTableOrder) {
     // Switching to the layout turns model space off and enters the paper
-    // viewport: three variables change, and the layout changed.
+    // viewport: three variables change, and the layout changed, with the plot
+    // settings in effect.
     run(L"CTAB\nLayout1\n");
     EXPECT_EQ(spy.take(), (Lines{"commandWillStart CTAB", "sysVarChanged TILEMODE true",
                                  "sysVarChanged CTAB true", "sysVarChanged CVPORT true",
+                                 "plotSettingsChanged", "plotSettingsChangedForLayout Layout1",
                                  "layoutChanged", "commandEnded CTAB", "refreshNeeded false"}));
     EXPECT_EQ(getShort(L"TILEMODE"), 0);
     EXPECT_EQ(getShort(L"CVPORT"), 1);

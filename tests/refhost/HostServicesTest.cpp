@@ -170,7 +170,9 @@ TEST_F(HostServicesTest, EachLayoutKeepsItsPlotStyleTableAndChangesAreTold) {
     ASSERT_TRUE(plot.setLayoutByName(KyString(L"Layout1")));
     EXPECT_EQ(spy.take(),
               (Lines{"sysVarWillChange CTAB", "sysVarChanged TILEMODE true",
-                     "sysVarChanged CTAB true", "sysVarChanged CVPORT true", "layoutChanged"}));
+                     "sysVarChanged CTAB true", "sysVarChanged CVPORT true", "plotSettingsChanged",
+                     "plotSettingsChangedForLayout Layout1", "layoutChanged"}))
+        << "the settings of the layout now current are in effect";
     ASSERT_TRUE(plot.getPlotStyleTable(text));
     EXPECT_EQ(text, L"Default.ctb");
     ASSERT_TRUE(plot.getPageSetupName(text));

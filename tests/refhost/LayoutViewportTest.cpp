@@ -32,6 +32,7 @@ TEST_F(LayoutViewportTest, AnyLayoutBecomesCurrentAndTileModeFollows) {
     run(L"CTAB\nDetails\n");
     EXPECT_EQ(spy.take(), (Lines{"commandWillStart CTAB", "sysVarChanged TILEMODE true",
                                  "sysVarChanged CTAB true", "sysVarChanged CVPORT true",
+                                 "plotSettingsChanged", "plotSettingsChangedForLayout Details",
                                  "layoutChanged", "commandEnded CTAB", "refreshNeeded false"}));
     EXPECT_EQ(currentLayout(), "Details");
     EXPECT_EQ(getShort(L"TILEMODE"), 0);
@@ -42,7 +43,8 @@ TEST_F(LayoutViewportTest, AnyLayoutBecomesCurrentAndTileModeFollows) {
     // From one sheet to the other only the layout changes.
     ASSERT_TRUE(host->plotService()->setLayoutByName(KyString(L"Plan")));
     EXPECT_EQ(spy.take(),
-              (Lines{"sysVarWillChange CTAB", "sysVarChanged CTAB true", "layoutChanged"}));
+              (Lines{"sysVarWillChange CTAB", "sysVarChanged CTAB true", "plotSettingsChanged",
+                     "plotSettingsChangedForLayout Plan", "layoutChanged"}));
     EXPECT_EQ(currentLayout(), "Plan");
     EXPECT_EQ(currentViewport(), object(L"40"));
     ASSERT_TRUE(host->plotService()->setLayoutByName(KyString(L"Model")));

@@ -190,7 +190,8 @@ TEST_F(SysVarStoreTest, ADirectWriteOfTheHeaderIsToldAsTheVariablesItChanges) {
     // The layout shown is on its paper: the viewport changed too.
     EXPECT_EQ(spy.take(),
               (Lines{"sysVarWillChange TILEMODE", "sysVarChanged TILEMODE true",
-                     "sysVarChanged CTAB true", "sysVarChanged CVPORT true", "layoutChanged"}));
+                     "sysVarChanged CTAB true", "sysVarChanged CVPORT true", "plotSettingsChanged",
+                     "plotSettingsChangedForLayout Layout1", "layoutChanged"}));
 }
 
 TEST_F(SysVarStoreTest, CurrentItemsAreTheNamesOfTheDrawingsRecords) {
