@@ -28,6 +28,10 @@ bool KyDiPlotStyleTableCollectionImp::subFill(bool /*initial*/, KyDbDatabase* db
     return true;
 }
 
+void KyDiPlotStyleTableCollectionImp::subDrawingContentChanged() {
+    requestRefill();
+}
+
 void KyDiPlotStyleTableCollectionImp::requestCurrencyCheck() {
     KyDiImpNamedCollection::requestCurrencyCheck();
     KyDiObservableCollection* styles = KyDiManager::getKnownCollection(L"KYRO_PLOTSTYLENAME");

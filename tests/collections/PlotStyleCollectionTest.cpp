@@ -86,6 +86,13 @@ TEST_F(PlotStyles, AnotherTableResetsTheStyleListOnce) {
     pass();
     EXPECT_EQ(styleSpy.take(), Lines{});
     EXPECT_EQ(sentTexts(), std::vector<std::wstring>{});
+
+    // A table the host offers since is listed at the next change of content.
+    host.plotService()->setNamedTables(
+        {KyString(L"standard.stb"), KyString(L"Grayscale.stb"), KyString(L"Draft.stb")});
+    host.events().raiseDrawingContentChanged();
+    pass();
+    EXPECT_EQ(tableSpy.take(), (Lines{"itemsChanged added=[Draft.stb] removed=[]"}));
     styleChecker.expectInStep();
     tableChecker.expectInStep();
 }
