@@ -5,6 +5,7 @@
 #include "contexts/ContextFactories.h"
 #include "contexts/KyDiContextBase.h"
 #include "contexts/KyDiContextManagerImp.h"
+#include "contexts/KyDiDrawingContext.h"
 #include "contexts/KyDiViewportContext.h"
 #include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiDataItemReactor.h"
@@ -98,8 +99,9 @@ void KyDiManager::initialize(KyDiHost* host) {
     if (IKyDiCustomContextHost* customHost = IKyDiCustomContextHost::instance()) {
         customHost->registerContextFactories();
     }
-    // The layer's own context factories; "DRAWING", "SELECTION" and "RENDER"
-    // take their places around "VIEWPORT" as they come.
+    // The layer's own context factories; "SELECTION" and "RENDER" take their
+    // places around "VIEWPORT" as they come.
+    ContextFactories::registerFactory(L"DRAWING", &KyDiDrawingContext::create);
     ContextFactories::registerFactory(L"VIEWPORT", &KyDiViewportContext::create);
     // The symbol table module's rows, then the static ones, with their paths.
     KnownCollectionRegistry::install();
