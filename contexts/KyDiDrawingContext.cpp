@@ -33,7 +33,12 @@ KyDiDrawingContext::~KyDiDrawingContext() {
 }
 
 void KyDiDrawingContext::reportChange() {
-    notifyChanged(this, nullptr, nullptr);
+    // As every context, it tells only while a drawing is in front: without
+    // one it is inactive, and a drawing that comes changes the active
+    // contexts, which tells the manager's clients to read again.
+    if (KyDiHostAccess::currentDocument() != kKyDiNoDocument) {
+        notifyChanged(this, nullptr, nullptr);
+    }
 }
 
 bool KyDiDrawingContext::isBound() const {

@@ -33,7 +33,8 @@ public:
     ~KyDiDrawingContext() override;
 
     KyDiImpEffectiveProperty* effectiveProperty() const { return m_effectiveProperty; }
-    // Reports a change without names to the context's reactors.
+    // Reports a change without names to the context's reactors, while a
+    // drawing is in front.
     void reportChange();
 
 protected:

@@ -186,6 +186,11 @@ KyDiEffectiveEntry* KyDiImpEffectiveProperty::bind(int index) {
         }
         row.flags &= ~KyDiEffectiveEntry::kEntryLayerDependent;
     }
+    // Making the layer collection brings the effective property along to the
+    // document in front, and a client told of that may have bound the key.
+    if (const auto bound = m_entries.find(row.key); bound != m_entries.end()) {
+        return bound->second;
+    }
     KyDiCurrencyTracker* tracker = KnownCollectionRegistry::getCurrencyTracker(row.key, true);
     if (tracker == nullptr) {
         entryBound(row.key, nullptr);

@@ -85,6 +85,17 @@ TEST_F(EffectiveProperty, TheCurrentLayerAndALayersColourReportTheKeysTheyTouchO
     EXPECT_EQ(spy.take(), Reports{});
 }
 
+TEST_F(EffectiveProperty, AnotherViewportObjectMarksTheKeysThatDependOnTheViewport) {
+    readAll();
+    pass();  // the viewport context, made for the layer, binds to the drawing
+    EffectiveSpy spy(effective);
+    type(L"VSCURRENT\nRealistic\n");
+    pass();
+    EXPECT_EQ(spy.take(), Reports{"propertyChanged LAYER"});
+    pass();
+    EXPECT_EQ(spy.take(), Reports{});
+}
+
 TEST_F(EffectiveProperty, ALineweightLeavesAsTheHostsCommandAndReadsTheOldValueUntilIdle) {
     EXPECT_EQ(read(&Effective::getLineWeight), "ByLayer");
     EXPECT_EQ(read(&Effective::getColor), "ByLayer");
