@@ -88,7 +88,6 @@ public:
     void releaseDependencyReactors();
 
     KyDiDocument document() const { return m_document; }
-    std::uint32_t pending() const { return m_pending; }
 
     // Null is ignored; no duplicate check; removal takes the first match.
     void addReactor(KyDiEffectivePropertyReactor* reactor);
