@@ -8,6 +8,7 @@
 // - "DRAWING"'s members listed with their values.
 #include <benchmark/benchmark.h>
 
+#include <cwchar>
 #include <map>
 #include <memory>
 
@@ -42,6 +43,19 @@ const Getter kGetters[] = {
     &KyDiEffectiveProperty::getColor,           &KyDiEffectiveProperty::getTransparency,
 };
 
+// Counts what an effective property tells.
+class Told : public KyDiEffectivePropertyReactor {
+public:
+    void propertyChanged(const wchar_t* key) override {
+        ++changes;
+        layerChanges += std::wcscmp(key, L"LAYER") == 0 ? 1 : 0;
+    }
+    void allPropertiesChanged() override { ++all; }
+    int changes = 0;
+    int layerChanges = 0;
+    int all = 0;
+};
+
 // The host and the layer, started once for the process: one drawing for each
 // number of layers, the one in front being the size a benchmark asks for,
 // with both effective properties bound to every key and the "DRAWING"
@@ -72,7 +86,7 @@ public:
             drawing->getItem(row.key);
         }
         listDrawing();
-        KyDiManager::refresh();
+        settle();
     }
 
     KyRefHost& host() { return m_host; }
@@ -92,6 +106,22 @@ public:
     }
 
 private:
+    // A switch settles over a few passes (the plot styles are read anew in
+    // the pass after the one that saw another plot style table): passes
+    // until one reports nothing.
+    void settle() {
+        Told told;
+        KyDiManager::getEffectiveProperty()->addReactor(&told);
+        for (int pass = 0; pass < 8; ++pass) {
+            const int before = told.changes + told.all;
+            KyDiManager::refresh();
+            if (told.changes + told.all == before) {
+                break;
+            }
+        }
+        KyDiManager::getEffectiveProperty()->removeReactor(&told);
+    }
+
     Session() : m_host(options()) {
         KyDiManager::initialize(&m_host);
         m_drawing = KyDiManager::getContextManager()->getContext(L"DRAWING", true);
@@ -123,14 +153,6 @@ private:
     KyRefHost m_host;
     KyDiContext* m_drawing = nullptr;
     std::map<int, KyRefDocument*> m_drawings;
-};
-
-class Told : public KyDiEffectivePropertyReactor {
-public:
-    void propertyChanged(const wchar_t* /*key*/) override { ++changes; }
-    void allPropertiesChanged() override { ++all; }
-    int changes = 0;
-    int all = 0;
 };
 
 void BM_ReadEveryBoundKeyUnchanged(benchmark::State& state) {
@@ -165,8 +187,7 @@ void BM_CurrentLayerSetThroughTheHostToItsReport(benchmark::State& state) {
         KyDiManager::refresh();
     }
     effective->removeReactor(&told);
-    // The layer and the transparency, which follows the layer, each round.
-    if (told.changes != 2 * round || told.all != 0) {
+    if (told.layerChanges != round || told.all != 0) {
         state.SkipWithError("a change of the current layer went unreported");
     }
 }

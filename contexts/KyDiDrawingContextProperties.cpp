@@ -96,108 +96,66 @@ constexpr const wchar_t* kPlotStyle = L"PlotStyle";
 constexpr const wchar_t* kFaceEffects = L"Face Effects";
 constexpr const wchar_t* kEdgeEffects = L"Edge Effects";
 
+// A property placed in `category`, named from the first table and described
+// from the table of descriptions; everything else as a row starts.
+Row placed(const wchar_t* name, const wchar_t* key, Family family, unsigned nameId,
+           unsigned descriptionId, const wchar_t* category, unsigned order) {
+    Row row{name, key, family};
+    row.nameId = nameId;
+    row.descriptionId = descriptionId;
+    row.descriptionTable = descriptionId != 0 ? 1 : 0;
+    row.category = category;
+    row.order = order;
+    return row;
+}
+
 // A record of a list, shown by its name.
 Row record(const wchar_t* name, const wchar_t* key, const wchar_t* path, unsigned nameId,
            unsigned descriptionId, const wchar_t* category, unsigned order) {
-    return {name,
-            key,
-            Family::kRecord,
-            Space::kAny,
-            kWritable,
-            WriteGuard::kNone,
-            path,
-            true,
-            -1,
-            nameId,
-            0,
-            descriptionId,
-            descriptionId != 0 ? 1u : 0u,
-            category,
-            order};
+    Row row = placed(name, key, Family::kRecord, nameId, descriptionId, category, order);
+    row.refersTo = path;
+    row.displaysName = true;
+    return row;
 }
 
 // An item of a list, shown as it is.
 Row item(const wchar_t* name, const wchar_t* key, const wchar_t* path, unsigned nameId,
          unsigned descriptionId, unsigned order, const wchar_t* category) {
-    return {name,
-            key,
-            Family::kItem,
-            Space::kAny,
-            kWritable,
-            WriteGuard::kNone,
-            path,
-            false,
-            -1,
-            nameId,
-            0,
-            descriptionId,
-            descriptionId != 0 ? 1u : 0u,
-            category,
-            order};
+    Row row = placed(name, key, Family::kItem, nameId, descriptionId, category, order);
+    row.refersTo = path;
+    return row;
 }
 
 // A value with no list of its own.
 Row value(const wchar_t* name, const wchar_t* key, Family family, unsigned nameId,
           unsigned descriptionId, const wchar_t* category, unsigned order, int unitType = -1) {
-    return {name,
-            key,
-            family,
-            Space::kAny,
-            kWritable,
-            WriteGuard::kNone,
-            nullptr,
-            false,
-            unitType,
-            nameId,
-            0,
-            descriptionId,
-            descriptionId != 0 ? 1u : 0u,
-            category,
-            order};
+    Row row = placed(name, key, family, nameId, descriptionId, category, order);
+    row.unitType = unitType;
+    return row;
 }
 
 // A visual style setting of the view, in model space outside the block
 // editor.
 Row visualStyle(const wchar_t* name, const wchar_t* key, unsigned nameId, const wchar_t* category,
                 unsigned order, WriteGuard guard = WriteGuard::kNone) {
-    return {name,
-            key,
-            Family::kShort,
-            Space::kModelOutsideBlockEditor,
-            kWritable,
-            guard,
-            nullptr,
-            false,
-            -1,
-            nameId,
-            0,
-            0,
-            0,
-            category,
-            order};
+    Row row = placed(name, key, Family::kShort, nameId, 0, category, order);
+    row.space = Space::kModelOutsideBlockEditor;
+    row.writeGuard = guard;
+    return row;
 }
 
-// A setting of the layout or of the viewport's coordinate system, named from
-// the third table.
+// A setting of the layout or of the viewport's coordinate system, named and
+// described from the third table, its placement first.
 Row spaceSetting(const wchar_t* name, const wchar_t* key, Family family, Space space,
                  WriteKind write, unsigned nameId, unsigned descriptionId, const wchar_t* category,
                  unsigned order) {
-    return {name,
-            key,
-            family,
-            space,
-            write,
-            WriteGuard::kNone,
-            nullptr,
-            false,
-            -1,
-            nameId,
-            3,
-            descriptionId,
-            descriptionId != 0 ? 3u : 0u,
-            category,
-            order,
-            true};
+    Row row = placed(name, key, family, nameId, descriptionId, category, order);
+    row.space = space;
+    row.write = write;
+    row.nameTable = 3;
+    row.descriptionTable = descriptionId != 0 ? 3 : 0;
+    row.placementFirst = true;
+    return row;
 }
 
 Row readOnly(Row row) {
