@@ -1,5 +1,7 @@
 #include "effective/KyDiImpEffectiveProperty.h"
 
+#include <utility>
+
 #include "db/KyAxDocLock.h"
 #include "effective/EffectiveEntryTable.h"
 #include "effective/EffectivePropertyCurrencyReactor.h"
@@ -237,31 +239,33 @@ void KyDiImpEffectiveProperty::flushStep() {
         }
     }
     report();
-    m_pending = 0;
-    m_changed.clear();
 }
 
 void KyDiImpEffectiveProperty::report() {
-    if (m_changed.empty()) {
+    // What was marked is taken out before anybody is told: a mark made while
+    // a reactor is told waits for the next flush.
+    const std::set<KyDiEffectiveEntry*> changed = std::exchange(m_changed, {});
+    const bool all = changed.size() >= m_entries.size() || (m_pending & kReportAll) != 0;
+    m_pending = 0;
+    if (changed.empty()) {
         return;
     }
-    for (KyDiEffectiveEntry* changed : m_changed) {
-        changed->flags |= KyDiEffectiveEntry::kEntryDirty;
+    for (KyDiEffectiveEntry* entry : changed) {
+        entry->flags |= KyDiEffectiveEntry::kEntryDirty;
     }
     // A reactor may leave while it is told.
     const KyArray<KyDiEffectivePropertyReactor*> reactors = m_reactors;
-    if (m_changed.size() < m_entries.size() && (m_pending & kReportAll) == 0) {
-        for (const KyDiEffectiveEntry* changed : m_changed) {
-            for (int i = 0; i < reactors.length(); ++i) {
-                reactors[i]->propertyChanged(changed->key);
-            }
+    if (all) {
+        for (int i = 0; i < reactors.length(); ++i) {
+            reactors[i]->allPropertiesChanged();
         }
         return;
     }
-    for (int i = 0; i < reactors.length(); ++i) {
-        reactors[i]->allPropertiesChanged();
+    for (const KyDiEffectiveEntry* entry : changed) {
+        for (int i = 0; i < reactors.length(); ++i) {
+            reactors[i]->propertyChanged(entry->key);
+        }
     }
-    m_pending &= ~kReportAll;
 }
 
 void KyDiImpEffectiveProperty::addReactor(KyDiEffectivePropertyReactor* reactor) {

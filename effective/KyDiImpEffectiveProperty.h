@@ -96,7 +96,8 @@ public:
 private:
     // The current document with a working database, or no document.
     static KyDiDocument currentDocument();
-    // Sets the stale bits of the marked keys and tells the reactors.
+    // Takes what was marked, sets the stale bits of its keys and tells the
+    // reactors.
     void report();
     // The binding of the row at `index` to `key`.
     KyDiEffectiveEntry* bind(int index);
