@@ -78,6 +78,11 @@ bool KyDiImpDataPlotStyleItemCollection::subFillFromDatabase(bool /*initial*/, K
     // A drawing with colour-dependent plot styles has no named ones.
     KyDiPlotService* plot = KyDiHostAccess::plotService();
     if (db->plotStyleMode() || plot == nullptr) {
+        // Still filled from the drawing's table: only another one is a
+        // change that fills the list anew.
+        if (plot == nullptr || !plot->getPlotStyleTable(m_filledTable)) {
+            m_filledTable = KyString();
+        }
         return true;
     }
     // The styles of the current table; no table, no list.

@@ -2,7 +2,6 @@
 
 #include "db/KyCmTransparency.h"
 #include "db/KyDbDatabase.h"
-#include "db/KyDbReservedStrings.h"
 #include "kydi/KyDiDataItemFactory.h"
 #include "kydi/KyDiEffectiveValue.h"
 #include "manager/host/KyDiHostAccess.h"
@@ -28,19 +27,6 @@ KyDiDynamicObject* TransparencyCurrencyTracker::findItem(const KyDiEffectiveValu
 }
 
 KyDiDynamicObject* TransparencyCurrencyTracker::makeItem(const KyCmTransparency& transparency) {
-    KyString name;
-    switch (transparency.method()) {
-        case KyCmTransparency::kByLayer:
-            name = kydbGetReservedString(KyDb::kByLayer, true);
-            break;
-        case KyCmTransparency::kByBlock:
-            name = kydbGetReservedString(KyDb::kByBlock, true);
-            break;
-        default:
-            // The transparency in whole percent, rounded down:
-            // alpha 255 (opaque) is "0", alpha 0 "100".
-            name = KyString::formatted(L"%d", (25500 - transparency.alpha() * 100) / 255);
-            break;
-    }
-    return createDataItem(name, KyRxValue(transparency));
+    // The factory names it as a transparency's item is named.
+    return createDataItem(KyString(), KyRxValue(transparency));
 }

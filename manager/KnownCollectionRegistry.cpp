@@ -7,8 +7,10 @@
 
 #include "collections/KyDiImpCollectionBase.h"
 #include "collections/KyDiImpDictionaryItemCollection.h"
+#include "effective/KyDiImpEffectiveProperty.h"
 #include "kydi/KyDiCurrencyTracker.h"
 #include "kydi/KyDiDataItemFactory.h"
+#include "kydi/KyDiEffectiveProperty.h"
 #include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiObservableEnumCollection.h"
 #include "manager/KyDiManagerState.h"
@@ -116,7 +118,15 @@ KyDiObservableCollection* KnownCollectionRegistry::getKnownCollection(
         // A document being destroyed counts as none: nothing binds to it.
         bodyOf(collection)->bindToDocument(KyDiHostAccess::currentDocument());
     }
-    // Here comes the effective property, bound to the current document.
+    // The effective property comes along to the document in front: a client
+    // that reads it next finds it bound.
+    if (KyDiEffectiveProperty* effective = state.effectiveProperty) {
+        const KyDiDocument current = KyDiHostAccess::currentDocument();
+        if (current != kKyDiNoDocument && KyDiHostAccess::databaseOf(current) != nullptr &&
+            effective->imp()->document() != current) {
+            effective->imp()->flushStep();
+        }
+    }
     return collection;
 }
 

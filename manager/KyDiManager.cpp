@@ -5,6 +5,7 @@
 #include "contexts/ContextFactories.h"
 #include "contexts/KyDiContextBase.h"
 #include "contexts/KyDiContextManagerImp.h"
+#include "contexts/KyDiDrawingContext.h"
 #include "contexts/KyDiViewportContext.h"
 #include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiDataItemReactor.h"
@@ -12,6 +13,7 @@
 #include "kydi/KyDiHost.h"
 #include "kydi/KyDiManagerReactor.h"
 #include "kydi/KyDiSysVar.h"
+#include "manager/EffectivePropertyInstances.h"
 #include "manager/KnownCollectionRegistry.h"
 #include "manager/KyDiManagerModule.h"
 #include "manager/KyDiManagerState.h"
@@ -86,7 +88,9 @@ void KyDiManager::initialize(KyDiHost* host) {
     }
 
     state.localItemCache = new LocalDataItemCache();
-    // Here comes the selection's effective property.
+    // The effective property clients are given exists from the start; the
+    // drawing's own comes at its first demand.
+    state.effectiveProperty = new KyDiEffectiveProperty(new KyDiImpEffectiveProperty());
 
     KyDiReflectedClasses::registerAll();
     kyrxBuildClassHierarchy();
@@ -95,8 +99,9 @@ void KyDiManager::initialize(KyDiHost* host) {
     if (IKyDiCustomContextHost* customHost = IKyDiCustomContextHost::instance()) {
         customHost->registerContextFactories();
     }
-    // The layer's own context factories; "DRAWING", "SELECTION" and "RENDER"
-    // take their places around "VIEWPORT" as they come.
+    // The layer's own context factories; "SELECTION" and "RENDER" take their
+    // places around "VIEWPORT" as they come.
+    ContextFactories::registerFactory(L"DRAWING", &KyDiDrawingContext::create);
     ContextFactories::registerFactory(L"VIEWPORT", &KyDiViewportContext::create);
     // The symbol table module's rows, then the static ones, with their paths.
     KnownCollectionRegistry::install();
@@ -114,9 +119,19 @@ void KyDiManager::uninitialize() {
     // then the enumeration collections leave their trackers.
     KnownCollectionRegistry::destroyAll();
     KnownCollectionRegistry::releaseEnumTrackers();
-    // Here come the effective properties dropping their tracker reactors.
+    // The effective properties leave the viewport context and the layers
+    // while both stand.
+    forEachEffectiveProperty([](KyDiImpEffectiveProperty& effective) {
+        effective.releaseObjectReactors();
+        effective.releaseDependencyReactors();
+    });
     releaseContexts();
-    // Here come the effective properties going.
+    // The effective properties go; their trackers still stand.
+    delete std::exchange(state.drawingEffectiveProperty, nullptr);
+    if (KyDiEffectiveProperty* effective = std::exchange(state.effectiveProperty, nullptr)) {
+        delete effective->imp();
+        delete effective;
+    }
     // Collections go before the trackers they use.
     KnownCollectionRegistry::deleteAll();
 
@@ -161,11 +176,16 @@ void KyDiManager::uninitialize() {
     }
 
     // Every item is gone: the members they shared go before their classes.
+    state.itemTakingMember = nullptr;
     ItemMembers::releaseAll();
 
     KyDiReflectedClasses::deleteAll();
 
     KyDiExpressionProperties::removeTypeFromClassDictionary();
+}
+
+KyDiEffectiveProperty* KyDiManager::getEffectiveProperty() {
+    return kydiManagerState().effectiveProperty;
 }
 
 KyDiHost* KyDiManager::getHost() {

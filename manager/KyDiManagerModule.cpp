@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "effective/KyDiImpEffectiveProperty.h"
 #include "kydi/KyDiDataItemReactor.h"
 #include "kydi/KyDiDynamicObject.h"
 #include "manager/KyDiManagerState.h"
@@ -38,4 +39,14 @@ const KyRxPropertyBase* KyDiManagerModule::resolveReferenceProperty(const KyRxOb
         }
     }
     return nullptr;
+}
+
+KyDiImpEffectiveProperty* KyDiManagerModule::getDrawingEffectiveProperty() {
+    KyDiManagerState& state = kydiManagerState();
+    if (state.drawingEffectiveProperty == nullptr) {
+        state.drawingEffectiveProperty = new KyDiImpEffectiveProperty();
+        // Binds it to the document in front; it has no keys yet to report.
+        state.drawingEffectiveProperty->flushStep();
+    }
+    return state.drawingEffectiveProperty;
 }

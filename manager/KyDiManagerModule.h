@@ -2,6 +2,7 @@
 // data item layer.
 #pragma once
 
+class KyDiImpEffectiveProperty;
 class KyDiItem;
 class KyRxMember;
 class KyRxObject;
@@ -24,4 +25,8 @@ public:
     // when the object has none, or the member found is not a property.
     static const KyRxPropertyBase* resolveReferenceProperty(const KyRxObject* object,
                                                             const wchar_t* name);
+
+    // The drawing's effective property, made at its first demand and bound
+    // to the current document when there is one with a database.
+    static KyDiImpEffectiveProperty* getDrawingEffectiveProperty();
 };

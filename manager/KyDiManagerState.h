@@ -24,6 +24,8 @@ class KyDiCurrencyTracker;
 class KyDiObservableCollection;
 class KyDiObservableEnumCollection;
 class KyDiDataItemReactor;
+class KyDiEffectiveProperty;
+class KyDiImpEffectiveProperty;
 class KyDiExternalReferenceHost;
 class KyDiHost;
 class KyDiManagerReactor;
@@ -48,6 +50,15 @@ struct KyDiManagerState {
     MemberReactor* memberReactor = nullptr;
     // The items of records and values; owned from initialize to uninitialize.
     LocalDataItemCache* localItemCache = nullptr;
+    // The effective property clients are given, with its implementation;
+    // owned from initialize to uninitialize.
+    KyDiEffectiveProperty* effectiveProperty = nullptr;
+    // The values a new object of the drawing would get, which the "DRAWING"
+    // context shows; made at its first demand, owned until uninitialize.
+    KyDiImpEffectiveProperty* drawingEffectiveProperty = nullptr;
+    // The one member whose written items stay items (the drawing context's
+    // "PlotStyle", which takes a plot style's item as it is); not owned.
+    const KyRxMember* itemTakingMember = nullptr;
 
     // The factories of contexts found by name, in order; a row's name and
     // its factory.

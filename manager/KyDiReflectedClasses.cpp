@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "contexts/KyDiDrawingContext.h"
 #include "contexts/KyDiViewportContext.h"
 #include "manager/host/IKyDiCustomContextHost.h"
 
@@ -39,7 +40,7 @@ const ReflectedClassRow kRows[kClassCount] = {
     {L"KyDiContextBase", L"KyDiContext", nullptr},
     {L"KyDiDbObjectContext", L"KyDiContextBase", nullptr},
     {L"KyDiRolloverTipsContext", L"KyDiDbObjectContext", nullptr},
-    {L"KyDiDrawingContext", L"KyDiContextBase", nullptr},
+    {L"KyDiDrawingContext", L"KyDiContextBase", &KyDiDrawingContext::buildMembers},
     {L"KyDiSelectionContext", L"KyDiContextBase", nullptr},
     {L"KyDiViewportContext", L"KyDiContextBase", &KyDiViewportContext::buildMembers},
     {L"KyDiRenderContext", L"KyDiContextBase", nullptr},

@@ -12,6 +12,7 @@
 #include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiObservableEnumCollection.h"
 #include "kydi/KyDiSysVar.h"
+#include "manager/EffectivePropertyInstances.h"
 #include "manager/KyDiManagerState.h"
 #include "manager/LocalDataItemCache.h"
 #include "manager/ObjectReactorHub.h"
@@ -56,7 +57,9 @@ void RefreshPass::run(bool force) {
     refreshSysVars();
     updateCollections();
     refreshEnumCollections();
-    // Here come the effective properties, flushed.
+    // The effective properties follow the document in front and report what
+    // the collections and trackers marked.
+    forEachEffectiveProperty([](KyDiImpEffectiveProperty& effective) { effective.flushStep(); });
     if (KyDiContextManager* contexts = state.contextManager) {
         contexts->imp()->flush();
     }

@@ -3,6 +3,7 @@
 #include "db/KyCmColor.h"
 #include "db/KyCmTransparency.h"
 #include "db/KyDbLayerTableRecord.h"
+#include "db/KyDbReservedStrings.h"
 #include "kydi/KyDiDbComplexItem.h"
 #include "kydi/KyDiDbDictionaryItem.h"
 #include "kydi/KyDiDbLayerItem.h"
@@ -17,6 +18,21 @@ namespace {
 bool isValueItemType(const KyRxValueType& type) {
     return type == KyRxValueType::Desc<KyCmColor>::value() ||
            type == KyRxValueType::Desc<KyCmTransparency>::value();
+}
+
+// The name of a transparency's item when its maker gives none: ByLayer or
+// ByBlock in the user's language, or the transparency in whole percent,
+// rounded down (alpha 255, opaque, is "0"; alpha 0 is "100"). Whichever road
+// makes the item first, it is named so.
+KyString transparencyName(const KyCmTransparency& transparency) {
+    switch (transparency.method()) {
+        case KyCmTransparency::kByLayer:
+            return kydbGetReservedString(KyDb::kByLayer, true);
+        case KyCmTransparency::kByBlock:
+            return kydbGetReservedString(KyDb::kByBlock, true);
+        default:
+            return KyString::formatted(L"%d", (25500 - transparency.alpha() * 100) / 255);
+    }
 }
 
 // A record's item: a layer is always a layer item, whichever road makes its
@@ -59,7 +75,10 @@ KyDiDynamicObject* createDataItem(const KyString& name, const KyRxValue& value,
         if (KyDiItem* cached = cache->findValueItem(value)) {
             return cached;
         }
-        auto* item = new KyDiNamedItem(name, value);
+        const KyCmTransparency* transparency = valueCast<KyCmTransparency>(&value);
+        auto* item = new KyDiNamedItem(
+            name.isEmpty() && transparency != nullptr ? transparencyName(*transparency) : name,
+            value);
         cache->addValueItem(item);
         return item;
     }

@@ -8,6 +8,7 @@
 #include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiManager.h"
 #include "kydi/KyDiValueTypes.h"
+#include "manager/KyDiManagerState.h"
 #include "rx/KyRxMethod.h"
 #include "rx/KyRxProperty.h"
 #include "rx/KyRxStandardAttributes.h"
@@ -48,6 +49,10 @@ bool KyDiConvertToDataItem(KyRxValue& value) {
 }
 
 bool KyDiConvertFromDataItem(const KyRxPropertyBase* property, KyRxValue& value) {
+    // The one member that takes items as they are.
+    if (property != nullptr && property == kydiManagerState().itemTakingMember) {
+        return true;
+    }
     KyDiDynamicObject* const* object = valueCast<KyDiDynamicObject*>(&value);
     if (object == nullptr || *object == nullptr) {
         return true;

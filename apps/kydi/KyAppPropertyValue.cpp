@@ -48,8 +48,9 @@ std::string itemText(KyDiDynamicObject* item) {
     if (item == nullptr) {
         return "none";
     }
-    // A value item shows its value; an item of a record its display name.
-    if (const KyRxValue* value = item->value()) {
+    // A value item shows its value; an item of a record, or of a name
+    // without a value, its display name.
+    if (const KyRxValue* value = item->value(); value != nullptr && !value->isEmpty()) {
         return KyAppPropertyValue::format(*value);
     }
     return KyAppValue::text(KyDiGetItemName(item).utf8()).format();

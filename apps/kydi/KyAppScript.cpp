@@ -6,6 +6,8 @@
 #include "KyAppCollectionWatch.h"
 #include "KyAppContextList.h"
 #include "KyAppContextWatch.h"
+#include "KyAppEffectiveKeys.h"
+#include "KyAppEffectiveWatch.h"
 #include "KyAppEnumCollectionWatch.h"
 #include "KyAppEnumCollections.h"
 #include "KyAppHostEventPrinter.h"
@@ -21,21 +23,29 @@
 #include "KyRefManualClock.h"
 #include "base/KyRxResourceInstance.h"
 #include "db/KyAxDocLock.h"
+#include "db/KyCmColor.h"
+#include "db/KyCmTransparency.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbHandle.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbSymbolTable.h"
+#include "kydi/KyDiColorCollection.h"
 #include "kydi/KyDiContext.h"
 #include "kydi/KyDiCurrencyTracker.h"
 #include "kydi/KyDiDataItemFactory.h"
+#include "kydi/KyDiDbItem.h"
 #include "kydi/KyDiDynamicObject.h"
+#include "kydi/KyDiEffectiveProperty.h"
 #include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiLayerService.h"
 #include "kydi/KyDiManager.h"
 #include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiObservableEnumCollection.h"
 #include "kydi/KyDiSysVar.h"
+#include "kydi/KyDiValueTypes.h"
+#include "rx/KyRxMemberQueryEngine.h"
 #include "rx/KyRxProperty.h"
+#include "rx/KyRxStandardAttributes.h"
 
 namespace {
 
@@ -92,6 +102,7 @@ KyAppScript::~KyAppScript() {
     m_collectionWatches.clear();
     m_enumWatches.clear();
     m_contextWatches.clear();
+    m_effectiveWatch.reset();
     if (m_hostPrinter != nullptr) {
         m_session.host().removeReactor(m_hostPrinter.get());
     }
@@ -115,7 +126,7 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"viewport", 0, 1, "viewport [HANDLE]", &Script::viewport},
         {"log", 0, 0, "log", &Script::log},
         {"watch", 1, 2,
-         "watch host|sysvar NAME|object HANDLE|collection NAME|context NAME|contexts",
+         "watch host|sysvar NAME|object HANDLE|collection NAME|context NAME|contexts|effective",
          &Script::watch},
         {"prompts", 1, 1, "prompts on|off", &Script::prompts},
         {"answer", 2, 2, "answer turnon yes|no", &Script::answer},
@@ -129,6 +140,7 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"set", 4, 4, "set COLLECTION ITEM PROPERTY VALUE", &Script::collectionStatement},
         {"contexts", 0, 0, "contexts", &Script::contexts},
         {"context", 1, 3, "context NAME [PROPERTY [VALUE]]", &Script::context},
+        {"effective", 0, 2, "effective [KEY [VALUE]]", &Script::effective},
     };
     return kRows;
 }
@@ -397,8 +409,21 @@ bool KyAppScript::watch(const KyAppStatement& statement) {
         m_contextWatches.push_back(std::make_unique<KyAppContextWatch>(name, m_out));
         return true;
     }
+    if (what == "effective" && name.empty()) {
+        if (m_effectiveWatch == nullptr) {
+            // A value is followed once it has been read.
+            KyDiEffectiveProperty* effective = KyDiManager::getEffectiveProperty();
+            for (const KyAppEffectiveKeys::Row& row : KyAppEffectiveKeys::rows()) {
+                KyDiDynamicObject* item = nullptr;
+                (effective->*row.get)(item);
+            }
+            m_effectiveWatch = std::make_unique<KyAppEffectiveWatch>(effective, m_out);
+        }
+        return true;
+    }
     return fail(
-        "usage: watch host|sysvar NAME|object HANDLE|collection NAME|context NAME|contexts");
+        "usage: watch "
+        "host|sysvar NAME|object HANDLE|collection NAME|context NAME|contexts|effective");
 }
 
 bool KyAppScript::sysvar(const KyAppStatement& statement) {
@@ -493,7 +518,13 @@ KyDiDynamicObject* KyAppScript::itemOf(KyDiCollection* collection,
 bool KyAppScript::propertyStatement(const KyAppStatement& statement, KyDiDynamicObject* item,
                                     std::size_t at) {
     const std::string& name = statement.words[at].text;
-    const auto* property = kyrxCast<KyRxProperty>(KyDiFindMember(item, KyString::fromUtf8(name)));
+    const KyString wanted = KyString::fromUtf8(name);
+    const auto* property = kyrxCast<KyRxProperty>(KyDiFindMember(item, wanted));
+    // A context may have properties it doesn't list: they are read by name.
+    if (property == nullptr && kyrxCast<KyDiContext>(static_cast<KyRxObject*>(item)) != nullptr) {
+        KyRxMemberQueryEngine* engine = KyRxMemberQueryEngine::theEngine();
+        property = kyrxCast<KyRxProperty>(engine->find(item, wanted, engine->promotingContext()));
+    }
     if (property == nullptr) {
         return fail(KyAppValue::text(statement.words[at - 1].text).format() + " has no property " +
                     name);
@@ -511,9 +542,13 @@ bool KyAppScript::propertyStatement(const KyAppStatement& statement, KyDiDynamic
     const KyAppWord& word = statement.words[at + 1];
     const std::optional<KyAppValue> typed = KyAppValue::parse(word.text, word.quoted, error);
     KyRxValue value;
-    if (!typed.has_value() || !KyAppPropertyValue::toValue(
-                                  *typed, property->type(),
-                                  m_session.host().documents().currentDatabase(), value, error)) {
+    if (!typed.has_value()) {
+        return fail(error);
+    }
+    if (!referredItem(*property, *typed, value, error) &&
+        (!error.empty() || !KyAppPropertyValue::toValue(
+                               *typed, property->type(),
+                               m_session.host().documents().currentDatabase(), value, error))) {
         return fail(error);
     }
     if (const Kyro::ErrorStatus status = property->setValue(item, value); status != Kyro::eOk) {
@@ -686,4 +721,107 @@ bool KyAppScript::context(const KyAppStatement& statement) {
         return true;
     }
     return propertyStatement(statement, context, 1);
+}
+
+bool KyAppScript::referredItem(const KyRxProperty& property, const KyAppValue& value,
+                               KyRxValue& out, std::string& error) {
+    const auto* refersTo = static_cast<const KyRxRefersToAttribute*>(
+        property.attributes().get(KyRxRefersToAttribute::desc()));
+    if (refersTo == nullptr || value.kind() != KyAppValue::Kind::kText ||
+        property.type() == KyRxValueType::Desc<KyString>::value()) {
+        return false;
+    }
+    KyDiObservableCollection* list = KyDiManager::getKnownCollectionFromPath(refersTo->path());
+    if (list == nullptr) {
+        return false;
+    }
+    KyDiDynamicObject* item =
+        itemOf(list, KyString(refersTo->path()).utf8(), value.asText(), error);
+    if (item == nullptr) {
+        return false;
+    }
+    // A record's item is written as the record's id.
+    out = KyRxValue(item);
+    return true;
+}
+
+bool KyAppScript::effective(const KyAppStatement& statement) {
+    if (statement.words.empty()) {
+        bool allRead = true;
+        for (const KyAppEffectiveKeys::Row& row : KyAppEffectiveKeys::rows()) {
+            allRead = printEffective(row.key) && allRead;
+        }
+        return allRead;
+    }
+    const std::string& key = statement.words[0].text;
+    const KyAppEffectiveKeys::Row* row = KyAppEffectiveKeys::find(key);
+    if (row == nullptr) {
+        return fail("unknown effective key " + key);
+    }
+    if (statement.words.size() == 1) {
+        return printEffective(key);
+    }
+    std::string error;
+    KyDiDynamicObject* item = effectiveItem(key, statement.words[1], error);
+    if (item == nullptr) {
+        return fail(error);
+    }
+    const Kyro::ErrorStatus status = (KyDiManager::getEffectiveProperty()->*row->set)(item);
+    if (status != Kyro::eOk) {
+        return fail(key + " was not set: " + statusText(status));
+    }
+    return true;
+}
+
+bool KyAppScript::printEffective(const std::string& key) {
+    KyDiDynamicObject* item = nullptr;
+    const Kyro::ErrorStatus status =
+        (KyDiManager::getEffectiveProperty()->*KyAppEffectiveKeys::find(key)->get)(item);
+    if (status != Kyro::eOk) {
+        return fail(key + " can't be read: " + statusText(status));
+    }
+    m_out << key << ' '
+          << (item != nullptr ? KyAppCollectionWatch::itemText(item) : std::string("varies"))
+          << '\n';
+    return true;
+}
+
+KyDiDynamicObject* KyAppScript::effectiveItem(const std::string& key, const KyAppWord& word,
+                                              std::string& error) {
+    KyDiCollection* list = nullptr;
+    if (const IKyRxEnumeration* values = KyAppEnumCollections::find(key)) {
+        list = KyDiManager::getCollection(values);
+    } else {
+        list = KyDiManager::getKnownCollection(KyString::fromUtf8(key));
+    }
+    if (list != nullptr) {
+        if (KyDiDynamicObject* item = itemOf(list, key, word.text, error)) {
+            return item;
+        }
+    }
+    const std::optional<KyAppValue> value = KyAppValue::parse(word.text, word.quoted, error);
+    if (!value.has_value()) {
+        return nullptr;
+    }
+    KyCmColor color;
+    KyCmTransparency transparency;
+    if (key == "COLOR" && value->toColor(color)) {
+        // A colour the list doesn't hold yet enters it.
+        if (auto* colors = dynamic_cast<KyDiColorCollection*>(list)) {
+            return colors->addItem(color);
+        }
+    } else if (key == "TRANSPARENCY" && value->toTransparency(transparency)) {
+        // The one item of the value, which the item cache keeps.
+        return createDataItem(KyString(), KyRxValue(transparency));
+    } else if (value->kind() == KyAppValue::Kind::kObject && list != nullptr) {
+        const KyDiItemArray& items = list->getItems();
+        for (int i = 0; i < items.length(); ++i) {
+            const auto* record = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(items[i]));
+            if (record != nullptr && record->objectId().handle() == value->handle()) {
+                return items[i];
+            }
+        }
+    }
+    error = key + " has no item " + value->format();
+    return nullptr;
 }

@@ -18,6 +18,7 @@
 //                      does; alone it goes back to the paper
 //   log                the host's command line since the last log, each line behind "| "
 //   watch host | sysvar NAME | object HANDLE | collection NAME | context NAME | contexts
+//         | effective (reads every effective value first, so that each is followed)
 //   prompts on|off     whether the current document can take a prompt
 //   answer turnon yes|no  what the host's layer service answers when asked to
 //                      turn an off current layer on
@@ -32,6 +33,11 @@
 //                      whose tracker answers the current one)
 //   contexts           the contexts by name, with priority and activity
 //   context NAME [PROPERTY [VALUE]]  a context's properties, or one read or written
+//                      (also one a context doesn't list, by name); an item of the
+//                      list a property refers to is named by its display name
+//   effective [KEY [VALUE]]  the effective values (the twelve keys LAYER ...
+//                      TRANSPARENCY), one of them, or one set to an item of its
+//                      list by display name or to a value in the program's forms
 #pragma once
 
 #include <istream>
@@ -46,7 +52,9 @@
 class IKyRxEnumeration;
 class KyAppCollectionWatch;
 class KyAppContextWatch;
+class KyAppEffectiveWatch;
 class KyAppEnumCollectionWatch;
+class KyAppValue;
 class KyAppHostEventPrinter;
 class KyDiCollection;
 class KyAppObjectWatch;
@@ -55,6 +63,8 @@ class KyDiDynamicObject;
 class KyAppSession;
 class KyAppSysVarWatch;
 class KyRefDocument;
+class KyRxProperty;
+class KyRxValue;
 
 class KyAppScript {
 public:
@@ -89,8 +99,8 @@ private:
     bool objectOf(const KyAppWord& word, KyDbObjectId& id, std::string& error);
     // The item `name` of a collection, by its display name; null with
     // `error` when there is none.
-    KyDiDynamicObject* itemOf(KyDiCollection* collection, const std::string& collectionName,
-                              const std::string& name, std::string& error);
+    static KyDiDynamicObject* itemOf(KyDiCollection* collection, const std::string& collectionName,
+                                     const std::string& name, std::string& error);
     // Reads (or, with a value after it, writes) the property named by word
     // `at` of `item`; the word before names the item.
     bool propertyStatement(const KyAppStatement& statement, KyDiDynamicObject* item,
@@ -127,6 +137,20 @@ private:
     bool answer(const KyAppStatement& statement);
     bool contexts(const KyAppStatement& statement);
     bool context(const KyAppStatement& statement);
+    // The item of the list that `property` refers to whose display name is
+    // `value`'s text, as a value for the property. False, with `error` when
+    // the list has no such item, or without `error` when the property refers
+    // to no list or `value` is no text.
+    static bool referredItem(const KyRxProperty& property, const KyAppValue& value, KyRxValue& out,
+                             std::string& error);
+    bool effective(const KyAppStatement& statement);
+    // Prints KEY and the item of the effective value of `key`.
+    bool printEffective(const std::string& key);
+    // The item that `word` names for the effective value of `key`: an item of
+    // the key's list by display name, a colour, a transparency, or a record
+    // by handle.
+    static KyDiDynamicObject* effectiveItem(const std::string& key, const KyAppWord& word,
+                                            std::string& error);
 
     KyAppSession& m_session;
     std::ostream& m_out;
@@ -136,5 +160,6 @@ private:
     std::vector<std::unique_ptr<KyAppCollectionWatch>> m_collectionWatches;
     std::vector<std::unique_ptr<KyAppEnumCollectionWatch>> m_enumWatches;
     std::vector<std::unique_ptr<KyAppContextWatch>> m_contextWatches;
+    std::unique_ptr<KyAppEffectiveWatch> m_effectiveWatch;
     bool m_anyFailed = false;
 };

@@ -12,6 +12,7 @@ class KyDiCollection;
 class KyDiContextManager;
 class KyDiCurrencyTracker;
 class KyDiDataItemReactor;
+class KyDiEffectiveProperty;
 class KyDiObservableCollection;
 class KyDiExternalReferenceHost;
 class KyDiHost;
@@ -60,6 +61,10 @@ public:
     // enumeration that a tracker follows, a plain list for any other. The
     // same object for the same enumeration.
     static KyDiCollection* getCollection(const IKyRxEnumeration* enumeration);
+
+    // The effective property: the layer, colour, styles ... that apply now.
+    // It exists from initialize to uninitialize, and is null outside.
+    static KyDiEffectiveProperty* getEffectiveProperty();
 
     // The context manager, made at its first demand (also before initialize)
     // and kept until uninitialize.

@@ -12,6 +12,7 @@
 #include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiObservableEnumCollection.h"
 #include "kydi/KyDiSysVar.h"
+#include "manager/EffectivePropertyInstances.h"
 #include "manager/KyDiManagerState.h"
 #include "manager/LocalDataItemCache.h"
 #include "manager/ObjectReactorHub.h"
@@ -62,7 +63,8 @@ void DataItemHostReactor::documentToBeDestroyed(KyDiDocument document) {
         static_cast<KyDiObservableEnumCollectionImp*>(collection->imp())
             ->documentToBeDestroyed(document);
     }
-    // Here come the effective properties letting go of the document.
+    forEachEffectiveProperty(
+        [](KyDiImpEffectiveProperty& effective) { effective.releaseDocument(); });
     if (state.contextManager != nullptr) {
         state.contextManager->imp()->forgetLastDocument();
     }
@@ -117,11 +119,14 @@ void DataItemHostReactor::sysVarWillChange(const wchar_t* /*name*/) {}
 
 void DataItemHostReactor::commandWillStart(const wchar_t* /*globalCommandName*/) {}
 
-// The events below only mark the known collections (and, as they come, the
-// effective properties and the built contexts) or the trackers of plot
-// settings and layouts; the refresh pass does the rest.
+// The events below only mark the known collections, the effective property
+// and the built contexts, or the trackers of plot settings and layouts; the
+// refresh pass does the rest.
 void DataItemHostReactor::hostStateChanged() {
     markCollections([](KyDiImpCollectionBase& collection) { collection.subHostStateChanged(); });
+    if (KyDiEffectiveProperty* effective = kydiManagerState().effectiveProperty) {
+        effective->imp()->subHostStateChanged();
+    }
 }
 
 void DataItemHostReactor::invalidateAll() {
@@ -167,7 +172,8 @@ void DataItemHostReactor::documentBecameQuiet(KyDiDocument document) {
     }
     RefreshPass::run(true);
     markCollections([](KyDiImpCollectionBase& collection) { collection.updateIfPending(); });
-    // Here come the effective properties, flushing.
+    // Only what was marked since the last pass.
+    forEachEffectiveProperty([](KyDiImpEffectiveProperty& effective) { effective.flush(); });
 }
 
 void DataItemHostReactor::documentBecameBusy(KyDiDocument document) {
@@ -180,5 +186,6 @@ void DataItemHostReactor::documentBecameBusy(KyDiDocument document) {
     for (const auto& [name, sysVar] : kydiManagerState().sysVars) {
         sysVar->imp()->rereadSilently();
     }
-    // Here come the effective properties, dropping what they hold pending.
+    forEachEffectiveProperty(
+        [](KyDiImpEffectiveProperty& effective) { effective.discardPending(); });
 }

@@ -159,6 +159,10 @@ TEST_F(Program, ARefusedValueChangesNothingAndTheHostIsLeftAtNoPrompt) {
     expectScript("refused_value", 0);
 }
 
+TEST_F(Program, TheDrawingContextShowsTheSpaceInFrontAndEffectiveChangesAreReportedOnce) {
+    expectScript("drawing_context", 1);
+}
+
 TEST_F(Program, FailingStatementsPrintErrorsTheScriptGoesOnAndTheStatusIsOne) {
     expectScript("errors", 1);
 }
@@ -228,6 +232,20 @@ TEST_F(Program, DumpAsJsonHasTheDocumentCollectionsContextsAndSystemVariables) {
         }
     }
     EXPECT_EQ(dump["header"]["CLAYER"], "Walls");
+    // The drawing's context lists its values of model space, the sample's
+    // space in front.
+    const KyRefJson* drawing = nullptr;
+    for (const KyRefJson& context : dump["contexts"]) {
+        if (context["name"] == "DRAWING") {
+            drawing = &context;
+        }
+    }
+    ASSERT_NE(drawing, nullptr);
+    EXPECT_EQ((*drawing)["active"], true);
+    EXPECT_EQ((*drawing)["priority"], 0);
+    EXPECT_EQ((*drawing)["properties"]["Layer"], "Walls");
+    EXPECT_EQ((*drawing)["properties"]["VSFaceStyle"], "0");
+    EXPECT_FALSE((*drawing)["properties"].contains("Layout"));
 }
 
 TEST_F(Program, DumpShowsTheSamplesLayersInEveryStateAndItsLayouts) {

@@ -152,4 +152,20 @@ TEST_F(ColorDependentPlotStyles, TheStyleListIsEmptyAndInactiveAndTheTableStands
     tableChecker.expectInStep();
 }
 
+TEST_F(ColorDependentPlotStyles, AfterADrawingWithNamedStylesTheEmptyListStaysQuiet) {
+    KyString error;
+    ASSERT_NE(host.documents().openDocument(KyString::fromUtf8(KYDI_TEST_SAMPLE), error), nullptr);
+    KyDiObservableCollection* list = known(L"KYRO_PLOTSTYLENAME");
+    known(L"PLOTSTYLETABLE");
+    pass();
+    host.documents().newDocument();
+    pass();
+    ContractChecker checker(list, "KYRO_PLOTSTYLENAME");
+    CollectionSpy spy(list);
+    pass();
+    pass();
+    EXPECT_EQ(spy.take(), Lines{}) << "the table it was filled from has not changed";
+    checker.expectInStep();
+}
+
 }  // namespace
