@@ -7,7 +7,8 @@
 // A read takes the effective item of the key and turns it into the value: an
 // id for a record, the item itself for a plot style, a plot style table or a
 // scale, the value the item holds otherwise; without an item, a neutral value
-// (the null id, the default colour, ByLayer lineweight, 0, true, empty text).
+// (the null id, the default colour, the default lineweight, 0, true, empty
+// text).
 // A write finds the item to make current (the record of an id among the
 // tracker's items, the colour list's item of a colour, the lineweight's item,
 // or an item that only holds the value) and hands it to the effective
