@@ -1,5 +1,8 @@
 #include "KyRefSysVarTable.h"
 
+#include <string>
+#include <unordered_map>
+
 #include "KyRefSysVarAccessors.h"
 
 namespace {
@@ -185,11 +188,15 @@ const KyRefSysVarRow* KyRefSysVarTable::find(const wchar_t* name) {
     if (name == nullptr) {
         return nullptr;
     }
-    const KyString wanted(name);
-    for (const KyRefSysVarRow& row : kRows) {
-        if (wanted.compareNoCase(row.name) == 0) {
-            return &row;
+    // The rows by their names in upper case: every read and write of a
+    // variable looks its row up, many in each refresh pass.
+    static const std::unordered_map<std::wstring, const KyRefSysVarRow*> s_rows = [] {
+        std::unordered_map<std::wstring, const KyRefSysVarRow*> rows;
+        for (const KyRefSysVarRow& row : kRows) {
+            rows.emplace(KyString(row.name).makeUpper().kwszPtr(), &row);
         }
-    }
-    return nullptr;
+        return rows;
+    }();
+    const auto found = s_rows.find(KyString(name).makeUpper().kwszPtr());
+    return found != s_rows.end() ? found->second : nullptr;
 }

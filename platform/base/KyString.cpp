@@ -82,8 +82,9 @@ wint_t tableUpper(wint_t c) {
 
 wchar_t toLower(wchar_t ch) {
     const auto c = static_cast<wint_t>(ch);
+    // ASCII by arithmetic: the same in every locale, and without a call.
     if (c < 0x80) {
-        return static_cast<wchar_t>(std::towlower(c));
+        return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + (L'a' - L'A')) : ch;
     }
     const locale_t loc = caseLocale();
     return static_cast<wchar_t>(loc != static_cast<locale_t>(nullptr) ? towlower_l(c, loc)
@@ -93,7 +94,7 @@ wchar_t toLower(wchar_t ch) {
 wchar_t toUpper(wchar_t ch) {
     const auto c = static_cast<wint_t>(ch);
     if (c < 0x80) {
-        return static_cast<wchar_t>(std::towupper(c));
+        return c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - (L'a' - L'A')) : ch;
     }
     const locale_t loc = caseLocale();
     return static_cast<wchar_t>(loc != static_cast<locale_t>(nullptr) ? towupper_l(c, loc)
