@@ -5,8 +5,8 @@
 //   idle) to the propertyChanged that reports it;
 // - a forced refresh pass over an unchanged drawing, with both effective
 //   properties bound to every key and "DRAWING" built, and the same pass
-//   before anything was bound or built, which runs first: the difference is
-//   what the effective values add to the idle pass;
+//   before anything was bound or built, which runs first; and the flush steps
+//   of both effective properties alone, which is what they add to a pass;
 // - "DRAWING"'s members listed with their values.
 #include <benchmark/benchmark.h>
 
@@ -224,6 +224,19 @@ void BM_ForcedPassUnchanged(benchmark::State& state) {
     }
 }
 BENCHMARK(BM_ForcedPassUnchanged)->Arg(1000)->Arg(10000)->Arg(100000);
+
+// What the effective values themselves add to such a pass: the flush step of
+// both instances, which follows the document and reports what was marked.
+void BM_EffectiveFlushStepsUnchanged(benchmark::State& state) {
+    Session::instance().use(static_cast<int>(state.range(0)));
+    KyDiImpEffectiveProperty* drawing = KyDiManagerModule::getDrawingEffectiveProperty();
+    KyDiImpEffectiveProperty* clients = KyDiManager::getEffectiveProperty()->imp();
+    for (auto _ : state) {
+        drawing->flushStep();
+        clients->flushStep();
+    }
+}
+BENCHMARK(BM_EffectiveFlushStepsUnchanged)->Arg(1000)->Arg(10000)->Arg(100000);
 
 void BM_ListDrawingMembersWithValues(benchmark::State& state) {
     Session& session = Session::instance();

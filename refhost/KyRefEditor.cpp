@@ -1,7 +1,5 @@
 #include "KyRefEditor.h"
 
-#include <algorithm>
-
 #include "KyRefCommandLine.h"
 #include "KyRefCommandScope.h"
 #include "KyRefCommandTable.h"
@@ -47,8 +45,7 @@ int KyRefEditor::getVar(const wchar_t* name, resbuf* out) {
         return KYRT_ERROR;
     }
     if (name != nullptr &&
-        std::none_of(m_variablesAsked.begin(), m_variablesAsked.end(),
-                     [name](const KyString& asked) { return asked.compareNoCase(name) == 0; })) {
+        m_variablesAskedKeys.insert(KyString(name).makeUpper().kwszPtr()).second) {
         m_variablesAsked.emplace_back(name);
     }
     KyRefResbufPtr value;

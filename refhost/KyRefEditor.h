@@ -6,6 +6,8 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "KyRefCommandInterpreter.h"
@@ -75,5 +77,8 @@ private:
     std::vector<Scope> m_scopes;
     std::vector<SentCommand> m_sent;
     std::vector<KyString> m_variablesAsked;
+    // The same names in upper case, to find one at once: every read of a
+    // variable asks.
+    std::unordered_set<std::wstring> m_variablesAskedKeys;
     KyString m_localName;
 };
