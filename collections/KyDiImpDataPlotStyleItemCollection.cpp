@@ -58,6 +58,12 @@ bool KyDiImpDataPlotStyleItemCollection::subTooManyChanges() const {
     return std::exchange(m_plotStyleTableChanged, false);
 }
 
+void KyDiImpDataPlotStyleItemCollection::noteFilledTable(KyDiPlotService* plot) {
+    if (plot == nullptr || !plot->getPlotStyleTable(m_filledTable)) {
+        m_filledTable = KyString();
+    }
+}
+
 void KyDiImpDataPlotStyleItemCollection::requestCurrencyCheck() {
     KyDiImpDictionaryItemCollection::requestCurrencyCheck();
     KyDiPlotService* plot = KyDiHostAccess::plotService();
@@ -80,9 +86,7 @@ bool KyDiImpDataPlotStyleItemCollection::subFillFromDatabase(bool /*initial*/, K
     if (db->plotStyleMode() || plot == nullptr) {
         // Still filled from the drawing's table: only another one is a
         // change that fills the list anew.
-        if (plot == nullptr || !plot->getPlotStyleTable(m_filledTable)) {
-            m_filledTable = KyString();
-        }
+        noteFilledTable(plot);
         return true;
     }
     // The styles of the current table; no table, no list.
@@ -90,9 +94,7 @@ bool KyDiImpDataPlotStyleItemCollection::subFillFromDatabase(bool /*initial*/, K
     if (!plot->getPlotStyleNames(db, owner, names)) {
         return false;
     }
-    if (!plot->getPlotStyleTable(m_filledTable)) {
-        m_filledTable = KyString();
-    }
+    noteFilledTable(plot);
     owner = db->plotStyleNameDictionaryId();
     KyDbObjectPointer<KyDbDictionary> dictionary(owner, KyDb::kForRead);
     if (dictionary.openStatus() != Kyro::eOk) {

@@ -12,6 +12,8 @@
 
 #include "collections/KyDiImpDictionaryItemCollection.h"
 
+class KyDiPlotService;
+
 class KyDiImpDataPlotStyleItemCollection : public KyDiImpDictionaryItemCollection {
 public:
     using KyDiImpDictionaryItemCollection::KyDiImpDictionaryItemCollection;
@@ -30,6 +32,9 @@ public:
                              void** context) override;
 
 private:
+    // Keeps the current table as the one the list was filled from.
+    void noteFilledTable(KyDiPlotService* plot);
+
     // Asked, and cleared, by the update that follows.
     mutable bool m_plotStyleTableChanged = false;
     // The table of the last fill; empty before one, and without a table.

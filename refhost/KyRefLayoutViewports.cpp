@@ -128,6 +128,15 @@ Kyro::ErrorStatus KyRefLayoutViewports::makeViewHolder(KyDbDatabase* database, K
     return database->tilemode() ? addActiveRecord(database, id) : Kyro::eNotApplicable;
 }
 
+Kyro::ErrorStatus KyRefLayoutViewports::openViewHolder(KyDbDatabase* database,
+                                                       KyDbObjectPointer<KyDbObject>& holder) {
+    KyDbObjectId id;
+    if (const Kyro::ErrorStatus status = makeViewHolder(database, id); status != Kyro::eOk) {
+        return status;
+    }
+    return holder.open(id, KyDb::kForWrite);
+}
+
 KyDbObjectId KyRefLayoutViewports::activeRecord(KyDbDatabase* database) {
     KyDbObjectId id;
     if (database != nullptr) {

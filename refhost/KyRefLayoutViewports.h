@@ -11,6 +11,7 @@
 #include "base/KyString.h"
 #include "base/KyroErrorStatus.h"
 #include "db/KyDbObjectId.h"
+#include "db/KyDbObjectPointer.h"
 
 class KyDbDatabase;
 
@@ -35,6 +36,9 @@ public:
     // is added when the drawing lacks it. eNotApplicable on a layout without
     // a viewport. The caller holds the document's lock.
     static Kyro::ErrorStatus makeViewHolder(KyDbDatabase* database, KyDbObjectId& id);
+    // makeViewHolder, and the holder opened for write into `holder`.
+    static Kyro::ErrorStatus openViewHolder(KyDbDatabase* database,
+                                            KyDbObjectPointer<KyDbObject>& holder);
     // The active configuration "*Active" of the viewport table; null when the
     // drawing has none.
     static KyDbObjectId activeRecord(KyDbDatabase* database);

@@ -1,7 +1,6 @@
 #include "KyRefViewportService.h"
 
 #include <cmath>
-#include <memory>
 
 #include "KyRefDocumentManager.h"
 #include "KyRefHost.h"
@@ -10,10 +9,8 @@
 #include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbObjectPointer.h"
-#include "db/KyDbSymbolTable.h"
 #include "db/KyDbViewTableRecord.h"
 #include "db/KyDbViewport.h"
-#include "db/KyDbViewportTableRecord.h"
 
 KyRefViewportService::KyRefViewportService(KyRefHost& host) : m_host(host) {
     m_background.setColorMethod(KyCmColor::kNone);
@@ -58,14 +55,10 @@ Kyro::ErrorStatus KyRefViewportService::changeView(const Change& change) {
     if (lock.lockStatus() != Kyro::eOk) {
         return lock.lockStatus();
     }
-    KyDbObjectId id;
-    if (const Kyro::ErrorStatus status = KyRefLayoutViewports::makeViewHolder(database, id);
+    KyDbObjectPointer<KyDbObject> holder;
+    if (const Kyro::ErrorStatus status = KyRefLayoutViewports::openViewHolder(database, holder);
         status != Kyro::eOk) {
         return status;
-    }
-    KyDbObjectPointer<KyDbObject> holder(id, KyDb::kForWrite);
-    if (!holder) {
-        return holder.openStatus();
     }
     if (const auto* viewport = kyrxCast<KyDbViewport>(holder.object());
         viewport != nullptr && viewport->isLocked()) {

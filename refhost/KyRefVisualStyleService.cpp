@@ -72,14 +72,10 @@ Kyro::ErrorStatus KyRefVisualStyleService::showStyle(KyDbDatabase* database, KyD
     if (shownStyle(database) == styleId) {
         return Kyro::eOk;
     }
-    KyDbObjectId holderId;
-    if (const Kyro::ErrorStatus status = KyRefLayoutViewports::makeViewHolder(database, holderId);
+    KyDbObjectPointer<KyDbObject> holder;
+    if (const Kyro::ErrorStatus status = KyRefLayoutViewports::openViewHolder(database, holder);
         status != Kyro::eOk) {
         return status;
-    }
-    KyDbObjectPointer<KyDbObject> holder(holderId, KyDb::kForWrite);
-    if (!holder) {
-        return holder.openStatus();
     }
     const Kyro::ErrorStatus status = nameStyle(holder.object(), styleId);
     changed = status == Kyro::eOk;
