@@ -1,4 +1,4 @@
-#include "contexts/KyDiContextBase.h"
+#include "kydi/KyDiContextBase.h"
 
 #include <memory>
 
@@ -20,9 +20,16 @@ void KyDiContextBase::subDatabaseToBeDestroyed(void* /*database*/) {}
 void KyDiContextBase::subTerminate() {}
 
 KyRxMemberIterator* KyDiContextBase::newFilteredMemberIterator() {
+    return newFilteredMemberIterator(this);
+}
+
+KyRxMemberIterator* KyDiContextBase::newFilteredMemberIterator(const KyRxObject* object) {
     KyRxMemberQueryEngine* engine = KyRxMemberQueryEngine::theEngine();
     const std::unique_ptr<KyRxMemberIterator> members(
-        engine->newMemberIterator(this, engine->promotingContext()));
+        engine->newMemberIterator(object, engine->promotingContext()));
+    if (members == nullptr) {
+        return nullptr;
+    }
     const std::unique_ptr<KyRxMemberIterator> shown(PropertyFilter::filter(this, members.get()));
     return PropertyWrapping::wrapMembers(shown.get());
 }

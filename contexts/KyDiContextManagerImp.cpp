@@ -156,21 +156,35 @@ void KyDiContextManagerImp::flush() {
         return;
     }
     const unsigned decision = decide();
+    // A reactor may add or remove reactors while it is told: the walk goes
+    // over the reactors as they stood, and skips those removed meanwhile.
+    const KyArray<KyDiContextReactor*> reactors = m_reactors;
     if (decision == kContextsChanged) {
         m_activeContexts = activeNow();
-        const int count = m_reactors.length();
-        for (int i = 0; i < count && i < m_reactors.length(); ++i) {
-            m_reactors[i]->activeContextsChanged();
+        for (int i = 0; i < reactors.length(); ++i) {
+            if (isRegistered(reactors[i])) {
+                reactors[i]->activeContextsChanged();
+            }
         }
     } else if (decision == kContextReported) {
-        const KyArray<KyDiContextReactor*> reactors = m_reactors;
         for (int i = 0; i < reactors.length(); ++i) {
             for (const auto& [context, change] : m_changes) {
-                reactors[i]->contextChanged(change);
+                if (isRegistered(reactors[i])) {
+                    reactors[i]->contextChanged(change);
+                }
             }
         }
     }
     clearChanges();
+}
+
+bool KyDiContextManagerImp::isRegistered(const KyDiContextReactor* reactor) const {
+    for (int i = 0; i < m_reactors.length(); ++i) {
+        if (m_reactors[i] == reactor) {
+            return true;
+        }
+    }
+    return false;
 }
 
 void KyDiContextManagerImp::clearChanges() {

@@ -73,6 +73,7 @@ private:
     void storeDocument(KyDiDocument document);
     KyArray<KyDiContext*> activeNow() const;
     void clearChanges();
+    bool isRegistered(const KyDiContextReactor* reactor) const;
 
     unsigned m_pending = 0;
     KyDiDocument m_lastDatabase = kKyDiUnboundDocument;

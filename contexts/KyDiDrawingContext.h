@@ -13,7 +13,7 @@
 // "TileMode" is never listed, but can be read and written by name.
 #pragma once
 
-#include "contexts/KyDiContextBase.h"
+#include "kydi/KyDiContextBase.h"
 
 class DrawingEffectivePropertyReactor;
 class KyDiImpEffectiveProperty;

@@ -18,8 +18,8 @@
 #include "base/KyArray.h"
 #include "base/KyString.h"
 #include "contexts/DataValueReactor.h"
-#include "contexts/KyDiContextBase.h"
 #include "db/KyDbObjectId.h"
+#include "kydi/KyDiContextBase.h"
 #include "kydi/KyDiTypes.h"
 #include "manager/KyDiObjectModifiedReactor.h"
 

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "contexts/ContextFactories.h"
-#include "contexts/KyDiContextBase.h"
+#include "kydi/KyDiContextBase.h"
 #include "contexts/KyDiContextManagerImp.h"
 #include "contexts/KyDiDrawingContext.h"
 #include "contexts/KyDiViewportContext.h"

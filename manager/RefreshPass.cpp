@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "collections/KyDiImpCollectionBase.h"
-#include "contexts/KyDiContextBase.h"
+#include "kydi/KyDiContextBase.h"
 #include "contexts/KyDiContextManagerImp.h"
 #include "db/KyDbDatabase.h"
 #include "kydi/KyDiContextManager.h"

@@ -2,7 +2,7 @@
 
 #include <mutex>
 
-#include "contexts/KyDiContextBase.h"
+#include "kydi/KyDiContextBase.h"
 #include "kydi/KyDiContext.h"
 #include "manager/KyDiReflectedClasses.h"
 #include "reflection/PropertyFilter.h"

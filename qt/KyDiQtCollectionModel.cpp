@@ -84,16 +84,23 @@ const std::vector<const KyRxPropertyBase*>& KyDiQtCollectionModel::columnsOf(
     }
     const QPair<const void*, const void*> key(item->isA(), recordClass);
     auto found = m_columns.find(key);
-    if (found == m_columns.end()) {
-        std::vector<const KyRxPropertyBase*> columns;
-        columns.push_back(kyrxCast<KyRxPropertyBase>(KyDiFindMember(item, kNameProperty)));
-        for (const QString& name : m_properties) {
-            const KyString wanted = KyDiQtValue::toKyString(name);
-            columns.push_back(kyrxCast<KyRxPropertyBase>(KyDiFindMember(item, wanted.kwszPtr())));
-        }
-        found = m_columns.insert(key, std::move(columns));
+    if (found != m_columns.end()) {
+        return *found;
     }
-    return *found;
+    std::vector<const KyRxPropertyBase*> columns;
+    columns.push_back(kyrxCast<KyRxPropertyBase>(KyDiFindMember(item, kNameProperty)));
+    for (const QString& name : m_properties) {
+        const KyString wanted = KyDiQtValue::toKyString(name);
+        columns.push_back(kyrxCast<KyRxPropertyBase>(KyDiFindMember(item, wanted.kwszPtr())));
+    }
+    // An item that showed no member at all (its record could not be opened)
+    // says nothing of its kind: it is not remembered.
+    if (std::all_of(columns.begin(), columns.end(),
+                    [](auto* member) { return member == nullptr; })) {
+        m_unlisted = std::move(columns);
+        return m_unlisted;
+    }
+    return *m_columns.insert(key, std::move(columns));
 }
 
 const KyRxPropertyBase* KyDiQtCollectionModel::property(int row, int column) const {
@@ -182,13 +189,14 @@ QVariant KyDiQtCollectionModel::headerData(int section, Qt::Orientation orientat
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole) {
         return QVariant();
     }
-    // The names are the members' own, read from the first item that has one.
-    for (KyDiDynamicObject* object : m_rows) {
-        if (const KyRxPropertyBase* member = columnsOf(object)[static_cast<size_t>(section)]) {
+    // The names are the members' own, read from the first item that has
+    // one among the first rows.
+    const size_t rows = std::min<size_t>(m_rows.size(), 16);
+    for (size_t row = 0; row < rows; ++row) {
+        if (const KyRxPropertyBase* member = columnsOf(m_rows[row])[static_cast<size_t>(section)]) {
             return KyDiQtValue::fromKyString(role == Qt::DisplayRole ? member->localName()
                                                                      : KyDiGetDescription(member));
         }
-        break;
     }
     return role == Qt::DisplayRole ? QVariant(name) : QVariant();
 }
@@ -245,7 +253,8 @@ void KyDiQtCollectionModel::itemsChanged(const KyDiItemArray& added, const KyDiI
     removeRuns(removed);
     // What the collection holds now, less what it added, is what the rows
     // hold: in the same order, unless the collection sorted its kept items
-    // anew.
+    // anew (a move of rows), and never other items (then the rows are read
+    // anew).
     const std::unordered_set<KyDiDynamicObject*> fresh(added.begin(), added.end());
     std::vector<KyDiDynamicObject*> kept;
     kept.reserve(m_rows.size());
@@ -255,6 +264,15 @@ void KyDiQtCollectionModel::itemsChanged(const KyDiItemArray& added, const KyDiI
         }
     }
     if (kept != m_rows) {
+        const std::unordered_set<KyDiDynamicObject*> rows(m_rows.begin(), m_rows.end());
+        const bool sameItems = kept.size() == m_rows.size() &&
+                               std::all_of(kept.begin(), kept.end(), [&](KyDiDynamicObject* item) {
+                                   return rows.contains(item);
+                               });
+        if (!sameItems) {
+            collectionReset();
+            return;
+        }
         reorderKept(kept);
     }
     insertRuns(added);
@@ -268,6 +286,13 @@ void KyDiQtCollectionModel::removeRuns(const KyDiItemArray& removed) {
         }
     }
     const std::vector<std::pair<int, int>> runs = runsOf(std::move(rows));
+    // The current item as told stays until the collection tells another; a
+    // removed one is no row and can't stand for one that comes later at the
+    // same address.
+    if (m_current != nullptr &&
+        std::find(removed.begin(), removed.end(), m_current) != removed.end()) {
+        m_current = nullptr;
+    }
     // From the last run back, so that the rows of the earlier runs hold.
     for (auto run = runs.rbegin(); run != runs.rend(); ++run) {
         beginRemoveRows(QModelIndex(), run->first, run->second);
@@ -352,8 +377,8 @@ void KyDiQtCollectionModel::activeChanged(bool active) {
 void KyDiQtCollectionModel::emitCurrentRows(KyDiDynamicObject* before, KyDiDynamicObject* after) {
     for (KyDiDynamicObject* object : {before, after}) {
         if (const int row = rowOf(object); row >= 0) {
-            Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1),
-                               {CurrentItemRole, Qt::FontRole});
+            // Every role: a proxy may show the current item in roles of its own.
+            Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
         }
     }
 }

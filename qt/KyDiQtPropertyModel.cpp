@@ -35,6 +35,15 @@ KyDiQtPropertyModel::~KyDiQtPropertyModel() {
 }
 
 void KyDiQtPropertyModel::setObject(KyDiDynamicObject* object) {
+    // A context is followed by the name the manager holds it under, when it
+    // has one.
+    if (auto* context = kyrxCast<KyDiContext>(static_cast<KyRxObject*>(object))) {
+        const wchar_t* name = KyDiManager::getContextManager()->getName(context);
+        if (name != nullptr) {
+            setContext(QString::fromWCharArray(name));
+            return;
+        }
+    }
     beginResetModel();
     unfollow();
     follow(object);
@@ -43,28 +52,33 @@ void KyDiQtPropertyModel::setObject(KyDiDynamicObject* object) {
 }
 
 void KyDiQtPropertyModel::setContext(const QString& name) {
-    KyDiContextManager* contexts = KyDiManager::getContextManager();
-    KyDiContext* context = contexts != nullptr
-                               ? contexts->getContext(KyDiQtValue::toKyString(name).kwszPtr(), true)
-                               : nullptr;
-    setObject(context);
+    beginResetModel();
+    unfollow();
     m_contextName = name;
+    KyDiContextManager* contexts = KyDiManager::getContextManager();
+    follow(contexts != nullptr ? contexts->getContext(KyDiQtValue::toKyString(name).kwszPtr(), true)
+                               : nullptr);
+    m_categories = listMembers();
+    endResetModel();
 }
 
 void KyDiQtPropertyModel::follow(KyDiDynamicObject* object) {
     m_object = object;
+    m_context = kyrxCast<KyDiContext>(static_cast<KyRxObject*>(object));
+    // A context, or the name of one, is followed through the manager, which
+    // may hold another context under the name later.
+    if (m_context != nullptr || !m_contextName.isEmpty()) {
+        if (KyDiContextManager* contexts = KyDiManager::getContextManager()) {
+            contexts->addReactor(this);
+            m_followsContexts = true;
+        }
+        return;
+    }
     if (object == nullptr) {
         return;
     }
-    m_context = kyrxCast<KyDiContext>(static_cast<KyRxObject*>(object));
-    if (m_context != nullptr) {
-        KyDiContextManager* contexts = KyDiManager::getContextManager();
-        const wchar_t* name = contexts->getName(m_context);
-        m_contextName = name != nullptr ? QString::fromWCharArray(name) : QString();
-        contexts->addReactor(this);
-        return;
-    }
     KyDiManager::addReactor(static_cast<KyDiDataItemReactor*>(this));
+    m_followsItems = true;
     if (const auto* record = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(object))) {
         if (KyDiManager::addObjectReactor(record->objectId(), this) == Kyro::eOk) {
             m_watched = record->objectId();
@@ -73,14 +87,17 @@ void KyDiQtPropertyModel::follow(KyDiDynamicObject* object) {
 }
 
 void KyDiQtPropertyModel::unfollow() {
-    if (m_context != nullptr) {
+    if (m_followsContexts) {
         KyDiManager::getContextManager()->removeReactor(this);
-    } else if (m_object != nullptr) {
+    }
+    if (m_followsItems) {
         KyDiManager::removeReactor(static_cast<KyDiDataItemReactor*>(this));
     }
     if (!m_watched.isNull()) {
         KyDiManager::removeObjectReactor(m_watched, this);
     }
+    m_followsContexts = false;
+    m_followsItems = false;
     m_watched = KyDbObjectId();
     m_object = nullptr;
     m_context = nullptr;
@@ -185,17 +202,19 @@ void KyDiQtPropertyModel::contextChanged(const KyDiContextChange* change) {
 }
 
 void KyDiQtPropertyModel::activeContextsChanged() {
-    // The context may have been replaced under its name; follow the name.
-    const QString name = m_contextName;
-    KyDiContext* now = KyDiManager::getContextManager()->getContext(
-        KyDiQtValue::toKyString(name).kwszPtr(), false);
-    if (now != m_context) {
-        if (now != nullptr) {
-            setContext(name);
-        } else {
-            setObject(nullptr);
+    // The manager may hold another context under the name now, or none; the
+    // model stays on the name and shows what stands under it.
+    if (!m_contextName.isEmpty()) {
+        KyDiContext* now = KyDiManager::getContextManager()->getContext(
+            KyDiQtValue::toKyString(m_contextName).kwszPtr(), false);
+        if (now != m_context) {
+            beginResetModel();
+            m_object = now;
+            m_context = now;
+            m_categories = listMembers();
+            endResetModel();
+            return;
         }
-        return;
     }
     relist();
 }

@@ -15,10 +15,18 @@ namespace {
 
 constexpr auto kLocal = KyRxValueType::kStringFormatLocalized;
 
-// A colour typed as a user types it: "ByLayer", "ByBlock", an index or
-// "R,G,B".
+// The names of the first seven indices, as a colour's text shows them.
+const char* const kIndexNames[] = {"red", "yellow", "green", "cyan", "blue", "magenta", "white"};
+
+// A colour typed as a user types it: "ByLayer", "ByBlock", an index, the
+// name of one of the first seven, or "R,G,B".
 bool colorFromText(const QString& text, KyCmColor& color) {
     const QString word = text.trimmed();
+    for (int i = 0; i < 7; ++i) {
+        if (word.compare(QLatin1String(kIndexNames[i]), Qt::CaseInsensitive) == 0) {
+            return color.setColorIndex(static_cast<unsigned short>(i + 1)) == Kyro::eOk;
+        }
+    }
     if (word.compare(QLatin1String("ByLayer"), Qt::CaseInsensitive) == 0) {
         return color.setColorMethod(KyCmColor::kByLayer) == Kyro::eOk;
     }
@@ -172,9 +180,15 @@ QVariant KyDiQtValue::variant(const KyRxValue& value) {
     if (value.isVaries() || value.isEmpty()) {
         return QVariant();
     }
-    const KyRxValue shown = itemValue(value);
-    if (KyDiDynamicObject* object = item(shown)) {
-        return fromKyString(KyDiGetItemName(object));
+    // An item is edited by its display name, but for a colour or a
+    // transparency item, which is edited as its value.
+    KyRxValue shown = value;
+    if (KyDiDynamicObject* object = item(value)) {
+        const KyRxValue own = itemValue(value);
+        if (valueCast<KyCmColor>(&own) == nullptr && valueCast<KyCmTransparency>(&own) == nullptr) {
+            return fromKyString(KyDiGetItemName(object));
+        }
+        shown = own;
     }
     if (const std::optional<bool> on = flag(shown)) {
         return *on;

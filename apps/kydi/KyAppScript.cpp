@@ -12,6 +12,7 @@
 #include "KyAppEnumCollections.h"
 #include "KyAppHostEventPrinter.h"
 #include "KyAppMemberList.h"
+#include "KyAppObjectContext.h"
 #include "KyAppObjectWatch.h"
 #include "KyAppPropertyValue.h"
 #include "KyAppSession.h"
@@ -31,6 +32,7 @@
 #include "db/KyDbSymbolTable.h"
 #include "kydi/KyDiColorCollection.h"
 #include "kydi/KyDiContext.h"
+#include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiCurrencyTracker.h"
 #include "kydi/KyDiDataItemFactory.h"
 #include "kydi/KyDiDbItem.h"
@@ -103,6 +105,13 @@ KyAppScript::~KyAppScript() {
     m_enumWatches.clear();
     m_contextWatches.clear();
     m_effectiveWatch.reset();
+    // Out of the manager before they go, while the layer still runs.
+    for (const auto& [name, context] : m_objectContexts) {
+        if (KyDiContextManager* contexts = KyDiManager::getContextManager()) {
+            contexts->removeContext(KyString::fromUtf8(name).kwszPtr());
+        }
+    }
+    m_objectContexts.clear();
     if (m_hostPrinter != nullptr) {
         m_session.host().removeReactor(m_hostPrinter.get());
     }
@@ -708,11 +717,32 @@ bool KyAppScript::contexts(const KyAppStatement&) {
     return true;
 }
 
+KyDiContext* KyAppScript::objectContext(const KyAppWord& word, std::string& error) {
+    KyDbObjectId id;
+    if (!objectOf(word, id, error)) {
+        return nullptr;
+    }
+    const std::string name = KyAppValue::object(id.handle()).format();
+    auto found = m_objectContexts.find(name);
+    if (found == m_objectContexts.end()) {
+        auto context = std::make_unique<KyAppObjectContext>(KyString::fromUtf8(name).kwszPtr(), id);
+        KyDiManager::getContextManager()->addContext(KyString::fromUtf8(name).kwszPtr(),
+                                                     context.get());
+        // A context binds to its object when asked whether it is active, as
+        // the manager asks at every pass; the first statement needs it now.
+        context->isActive();
+        found = m_objectContexts.emplace(name, std::move(context)).first;
+    }
+    return found->second.get();
+}
+
 bool KyAppScript::context(const KyAppStatement& statement) {
     const std::string& name = statement.words[0].text;
-    KyDiContext* context = KyAppContextList::find(name);
+    std::string error;
+    KyDiContext* context = name.rfind('#', 0) == 0 ? objectContext(statement.words[0], error)
+                                                   : KyAppContextList::find(name);
     if (context == nullptr) {
-        return fail("unknown context " + name);
+        return fail(error.empty() ? "unknown context " + name : error);
     }
     if (statement.words.size() == 1) {
         for (const auto& [property, value] : KyAppContextList::properties(context)) {

@@ -41,6 +41,7 @@
 #pragma once
 
 #include <istream>
+#include <map>
 #include <memory>
 #include <ostream>
 #include <span>
@@ -60,6 +61,8 @@ class KyDiCollection;
 class KyAppObjectWatch;
 class KyDbObjectId;
 class KyDiDynamicObject;
+class KyAppObjectContext;
+class KyDiContext;
 class KyAppSession;
 class KyAppSysVarWatch;
 class KyRefDocument;
@@ -137,6 +140,9 @@ private:
     bool answer(const KyAppStatement& statement);
     bool contexts(const KyAppStatement& statement);
     bool context(const KyAppStatement& statement);
+    // The program's context over the object `word` names ("#4B"), made and
+    // added to the manager at its first use; null with `error`.
+    KyDiContext* objectContext(const KyAppWord& word, std::string& error);
     // The item of the list that `property` refers to whose display name is
     // `value`'s text, as a value for the property. False, with `error` when
     // the list has no such item, or without `error` when the property refers
@@ -161,5 +167,7 @@ private:
     std::vector<std::unique_ptr<KyAppEnumCollectionWatch>> m_enumWatches;
     std::vector<std::unique_ptr<KyAppContextWatch>> m_contextWatches;
     std::unique_ptr<KyAppEffectiveWatch> m_effectiveWatch;
+    // The object contexts of `context #HANDLE`, by name.
+    std::map<std::string, std::unique_ptr<KyAppObjectContext>> m_objectContexts;
     bool m_anyFailed = false;
 };

@@ -7,6 +7,7 @@
 #include "db/KyDbObjectId.h"
 #include "kydi/KyDiExport.h"
 
+class KyDiContext;
 class KyDiCurrencyTracker;
 class KyDiDynamicObject;
 class KyRxMember;
@@ -45,6 +46,15 @@ KYDI_API bool KyDiConvertToDataItem(KyRxValue& value);
 // The ids of the layers of a layer filter item of the flat filter list. The
 // caller is required to give such an item.
 KYDI_API const KyArray<KyDbObjectId>& GetFilterLayers(KyDiDynamicObject* item);
+
+// A new context standing for the live `object`, which it takes over, under
+// `name`. It is not added to the context manager: the caller adds it
+// (addContext), takes it out (removeContext) and deletes it with
+// deleteKyDiRxObjectContext.
+KYDI_API KyDiContext* createKyDiRxObjectContext(KyRxObject* object, const wchar_t* name);
+// Deletes a context made by createKyDiRxObjectContext; null and every other
+// context are left alone.
+KYDI_API void deleteKyDiRxObjectContext(KyDiContext* context);
 
 // Tells the known collection `name` to build its list anew at the next
 // refresh (a reset), or to look again (a refill). False for a name the

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "collections/KyDiImpCollectionBase.h"
-#include "contexts/KyDiContextBase.h"
+#include "kydi/KyDiContextBase.h"
 #include "contexts/KyDiContextManagerImp.h"
 #include "currency/DataItemCurrencyTrackerBase.h"
 #include "currency/LayoutCurrencyTrackerBase.h"

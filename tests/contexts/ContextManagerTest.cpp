@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "contexts/ContextFactories.h"
-#include "contexts/KyDiContextBase.h"
+#include "kydi/KyDiContextBase.h"
 #include "contexts/ManagerSpy.h"
 #include "kydi/KyDiContextChange.h"
 #include "kydi/KyDiContextIterator.h"

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-#include "contexts/KyDiContextBase.h"
+#include "kydi/KyDiContextBase.h"
 #include "db/KyCmTransparency.h"
 #include "db/KyDbEnums.h"
 #include "kydi/KyDiFunctions.h"

@@ -11,6 +11,7 @@
 
 #include <unistd.h>
 
+#include <QPersistentModelIndex>
 #include <deque>
 #include <filesystem>
 #include <iostream>
@@ -69,6 +70,7 @@ private:
 
     KyDiQtCollectionModel* m_model;
     std::vector<KyDiDynamicObject*> m_rows;
+    std::vector<QPersistentModelIndex> m_moving;
     int m_layouts = 0;
     int m_runs = 0;
     int m_resets = 0;

@@ -15,6 +15,7 @@
 #include <QTest>
 #include <QTreeView>
 #include <memory>
+#include <vector>
 
 #include "KyPalColorDelegate.h"
 #include "KyPalCurrentLayerBox.h"
@@ -54,7 +55,7 @@ protected:
     }
     void TearDown() override {
         // What reads the layer goes before the layer stops.
-        m_tester.reset();
+        m_testers.clear();
         m_table.reset();
         m_layers.reset();
         m_window.reset();
@@ -68,13 +69,22 @@ protected:
             KyDiManager::getKnownCollection(L"LAYER"), KyPalLayerTableModel::columnProperties());
         m_table = std::make_unique<KyPalLayerTableModel>();
         m_table->setSourceModel(m_layers.get());
-        m_tester = std::make_unique<QAbstractItemModelTester>(
-            m_table.get(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+        test(m_layers.get());
+        test(m_table.get());
         return *m_table;
     }
+    // The palette, with the tester on every model it shows.
     KyPalWindow& window() {
         m_window = std::make_unique<KyPalWindow>(host);
+        test(m_window->layers());
+        test(m_window->layerTable()->shownRows());
+        test(m_window->layerTable()->shownRows()->sourceModel());
+        test(m_window->properties()->model());
         return *m_window;
+    }
+    void test(QAbstractItemModel* model) {
+        m_testers.push_back(std::make_unique<QAbstractItemModelTester>(
+            model, QAbstractItemModelTester::FailureReportingMode::Fatal));
     }
     static int rowOf(const QAbstractItemModel& model, const QString& name) {
         for (int row = 0; row < model.rowCount(); ++row) {
@@ -94,7 +104,7 @@ private:
     std::unique_ptr<QApplication> m_app;
     std::unique_ptr<KyDiQtCollectionModel> m_layers;
     std::unique_ptr<KyPalLayerTableModel> m_table;
-    std::unique_ptr<QAbstractItemModelTester> m_tester;
+    std::vector<std::unique_ptr<QAbstractItemModelTester>> m_testers;
     std::unique_ptr<KyPalWindow> m_window;
 };
 

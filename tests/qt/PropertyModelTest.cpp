@@ -109,4 +109,26 @@ TEST_F(PropertyModel, TheDrawingContextFollowsATileModeChange) {
     EXPECT_EQ(value(*model, "Layer"), "Doors");
 }
 
+TEST_F(PropertyModel, AChangeThatNamesItsPropertiesRereadsOnlyTheirRows) {
+    auto* model = keep(std::make_unique<KyDiQtPropertyModel>());
+    model->setContext("VIEWPORT");
+    ASSERT_TRUE(model->valueIndex("ViewCenter").isValid());
+    QSignalSpy reset(model, &QAbstractItemModel::modelReset);
+    std::vector<std::string> changed;
+    QObject::connect(model, &QAbstractItemModel::dataChanged, [&](const QModelIndex& first) {
+        changed.push_back(
+            first.data(KyDiQtPropertyModel::PropertyNameRole).toString().toStdString());
+    });
+    KyDiManager::refresh();
+    KyDiManager::refresh();
+    changed.clear();
+    // The units' precision changes how the points read, and nothing else; the
+    // context hears it at the second pass.
+    type(L"_.SETVAR\nLUPREC\n6\n");
+    KyDiManager::refresh();
+    KyDiManager::refresh();
+    EXPECT_EQ(reset.count(), 0);
+    EXPECT_EQ(changed, (std::vector<std::string>{"CameraLocation", "ViewCenter"}));
+}
+
 }  // namespace

@@ -6,7 +6,8 @@
 // The rows follow the collection's notifications and nothing else: a change
 // of the drawing shows once a refresh pass has told the collection, as rows
 // removed and inserted in contiguous runs, a row's dataChanged for an item
-// modified, a model reset for a list built anew. Writes go through the item
+// modified, a model reset for a list built anew. Should the collection ever
+// reorder the items it kept, the rows move in a layout change. Writes go through the item
 // (setData), so a layer's colour leaves as the host's command and the row
 // changes when the host has run it and a pass has reported it.
 //
@@ -99,4 +100,5 @@ private:
     // Keyed by the item's class and, for an item of a record, the record's
     // class: items of one kind show the same members.
     mutable QHash<QPair<const void*, const void*>, std::vector<const KyRxPropertyBase*>> m_columns;
+    mutable std::vector<const KyRxPropertyBase*> m_unlisted;
 };

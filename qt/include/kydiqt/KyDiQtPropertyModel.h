@@ -47,10 +47,12 @@ public:
     explicit KyDiQtPropertyModel(QObject* parent = nullptr);
     ~KyDiQtPropertyModel() override;
 
-    // Shows the members of `object` (null: nothing). A context is followed
-    // as setContext follows it.
+    // Shows the members of `object` (null: nothing). A context the manager
+    // holds is followed by its name, as setContext follows it.
     void setObject(KyDiDynamicObject* object);
-    // Shows the context held under `name`, made by its factory when needed.
+    // Shows the context held under `name`, made by its factory when needed,
+    // and whatever context the manager holds under the name later on (none:
+    // the model is empty until one comes).
     void setContext(const QString& name);
     KyDiDynamicObject* object() const { return m_object; }
 
@@ -97,5 +99,8 @@ private:
     KyDiContext* m_context = nullptr;
     QString m_contextName;
     KyDbObjectId m_watched;
+    // Which of the manager's reactor lists the model is on.
+    bool m_followsContexts = false;
+    bool m_followsItems = false;
     std::vector<Category> m_categories;
 };

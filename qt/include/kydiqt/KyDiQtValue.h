@@ -7,10 +7,12 @@
 // - variant: what an editor gets: bool, int, double and QString for plain
 //   values; KyCmColor and KyCmTransparency as themselves (registered with
 //   Qt's meta-types), so that an index colour, a book colour or ByLayer
-//   come back unchanged; an item of a record as its display name; an
-//   enumerated value as its localized tag.
+//   come back unchanged, also when a colour or transparency item holds
+//   them; any other item as its display name; an enumerated value as its
+//   localized tag.
 // - toValue: what a property is written with: the same forms back, and
-//   besides a QColor or an int for a colour, an int (alpha) for a
+//   besides a QColor, an int or a text ("red", "ByLayer", "10,20,30") for a
+//   colour, an int (alpha) for a
 //   transparency, a tag's name for an enumerated value and an item's display
 //   name for a property that refers to a collection.
 #pragma once

@@ -1,16 +1,17 @@
-// Not part of the interface: the base of the contexts that the layer's
-// factories build. A context knows the name it was built under, and the
-// manager drives it through four hooks: once per refresh pass, when the host
-// invalidates everything, when a database goes away, and at shutdown.
+// KyDiContextBase: the base of the layer's own contexts, and of the object
+// contexts a client derives from (KyDiDbObjectContext). A context knows the
+// name it was built under, and the manager drives the contexts its factories
+// built through four hooks: once per refresh pass, when the host invalidates
+// everything, when a database goes away, and at shutdown.
 //
-// Its members are those of its class that a palette shows (see
-// PropertyFilter), each wrapped so that it reads through the context.
+// Its members are those of its class that a palette shows, each wrapped so
+// that it reads through the context.
 #pragma once
 
 #include "base/KyString.h"
 #include "kydi/KyDiContext.h"
 
-class KyDiContextBase : public KyDiContext {
+class KYDI_API KyDiContextBase : public KyDiContext {
 public:
     static KyRxClass* desc();
     KyRxClass* isA() const override;
@@ -30,6 +31,8 @@ protected:
     // The members of the context's class that pass the palette's filter on
     // this context, wrapped.
     KyRxMemberIterator* newFilteredMemberIterator();
+    // The same for the members of another object, read through this context.
+    KyRxMemberIterator* newFilteredMemberIterator(const KyRxObject* object);
 
 private:
     KyString m_name;
