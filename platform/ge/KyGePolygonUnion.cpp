@@ -84,6 +84,10 @@ std::vector<double> KyGePolygonUnion::cuts() const {
         const Edge& p = *byLeft[i];
         for (std::size_t j = i + 1; j < byLeft.size() && byLeft[j]->x0 < p.x1; ++j) {
             const Edge& q = *byLeft[j];
+            if (std::max(p.y0, p.y1) < std::min(q.y0, q.y1) ||
+                std::max(q.y0, q.y1) < std::min(p.y0, p.y1)) {
+                continue;
+            }
             const double rx = p.x1 - p.x0;
             const double ry = p.y1 - p.y0;
             const double sx = q.x1 - q.x0;
