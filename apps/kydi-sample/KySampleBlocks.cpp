@@ -306,6 +306,21 @@ Json detailsSheet(KySampleHandles& h) {
 
 }  // namespace
 
+void KySampleBlocks::addLater(KyRefJson& drawing, KySampleHandles& handles) {
+    // A rug over the kitchen floor, half of it on the floor's hole.
+    Json rug = entity(handles, "HATCH", "Hatch");
+    rug["pattern"] = "SOLID";
+    rug["loops"] = Json::array(
+        {Json::array({{6500.0, 4000.0}, {8500.0, 4000.0}, {8500.0, 4800.0}, {6500.0, 4800.0}})});
+    rug["color"] = 30;
+    for (Json& block : drawing["blocks"]) {
+        if (block["name"] == "*Model_Space") {
+            block["entities"].push_back(std::move(rug));
+            return;
+        }
+    }
+}
+
 void KySampleBlocks::add(KyRefJson& drawing, KySampleHandles& handles) {
     Json model = block(handles, "*Model_Space", modelEntities(handles));
     model["layout"] = handles.of("layout:Model");

@@ -79,6 +79,7 @@ KyRefJson KySampleDrawing::json() {
     KySampleTables::add(drawing, handles);
     KySampleBlocks::add(drawing, handles);
     KySampleObjects::add(drawing, handles);
+    KySampleBlocks::addLater(drawing, handles);
     drawing["layerFilters"] = layerFilters();
     drawing["layerStates"] = layerStates();
     return drawing;

@@ -19,6 +19,7 @@
 #include "db/KyDbDimension.h"
 #include "db/KyDbEllipse.h"
 #include "db/KyDbEntity.h"
+#include "db/KyDbHatch.h"
 #include "db/KyDbLayerState.h"
 #include "db/KyDbLayerTable.h"
 #include "db/KyDbLayerTableRecord.h"
@@ -40,6 +41,7 @@
 #include "db/KyDbPoint.h"
 #include "db/KyDbPolyline.h"
 #include "db/KyDbRasterImageDef.h"
+#include "db/KyDbRegion.h"
 #include "db/KyDbRenderSettings.h"
 #include "db/KyDbScale.h"
 #include "db/KyDbSectionViewStyle.h"
@@ -103,6 +105,8 @@ void kyrxRegisterDatabaseClasses() {
         &KyDbLeader::desc,
         &KyDbMLeader::desc,
         &KyDbViewport::desc,
+        &KyDbHatch::desc,
+        &KyDbRegion::desc,
         &KyDbUnknownEntity::desc,
         &KyDbDictionary::desc,
         &KyDbDictionaryWithDefault::desc,

@@ -1,5 +1,6 @@
 // Enumerations of the drawing database shared by its users: lineweights,
-// how an object takes part in shadows, and the modes of opening an object.
+// how an object takes part in shadows, the modes of opening an object, and
+// the boolean operations of regions.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -53,6 +54,13 @@ enum OpenMode {
     kForRead = 0,
     kForWrite = 1,
     kForNotify = 2,
+};
+
+// How KyDbRegion::booleanOper combines two regions.
+enum BoolOperType {
+    kBoolUnite = 0,
+    kBoolIntersect = 1,
+    kBoolSubtract = 2,
 };
 
 }  // namespace KyDb

@@ -25,6 +25,9 @@ void addAttributes(KyRxMember* member, const KyDbPropertyRow& row) {
         attributes.add(new KyRxRefersToAttribute(row.refersTo));
         attributes.add(new KyRxDisplayAsAttribute(L"Name"));
     }
+    if (row.cumulative) {
+        attributes.add(new KyRxCumulativeAttribute());
+    }
 }
 
 }  // namespace

@@ -8,7 +8,9 @@
 //   platform's resource module (table 0) found by the property's name in
 //   KyDbPropertyTexts, so a name means the same thing on every class;
 // - KyRxRefersToAttribute(path) with KyRxDisplayAsAttribute("Name") when the
-//   row refers to the items of a table or dictionary.
+//   row refers to the items of a table or dictionary;
+// - KyRxCumulativeAttribute when the values of several objects add up (the
+//   area of hatches).
 //
 // Names. A property is named after what a user edits, in one spelling across
 // the classes: "Name", "Color" (KyCmColor), "LineWeight" (KyDb::LineWeight),
@@ -55,6 +57,7 @@ namespace KyDbCategory {
 inline constexpr const wchar_t* kGeneral = L"General";
 inline constexpr const wchar_t* kGeometry = L"Geometry";
 inline constexpr const wchar_t* kText = L"Text";
+inline constexpr const wchar_t* kPattern = L"Pattern";
 inline constexpr const wchar_t* kMisc = L"Misc";
 }  // namespace KyDbCategory
 
@@ -84,6 +87,7 @@ struct KyDbPropertyRow {
     const wchar_t* refersTo = nullptr;  // a reference path, shown by "Name"
     KyDbMakeMember make = nullptr;      // set instead of `access` for other members
     KyDbFormulaAccess formula = {};     // set for a property that may hold a formula
+    bool cumulative = false;            // the values of several objects add up
 };
 
 // Adds the members of `rows` to a class being built.

@@ -109,6 +109,8 @@ const TextRow kPropertyTexts[] = {
     {L"PageSetupName", 9494},
     {L"PlotStyleTable", 9495},
     {L"RasterResolution", 9496},
+    {L"PatternName", 9497},
+    {L"NumLoops", 9498},
 };
 
 // Local names of the database classes, by class name.
@@ -170,6 +172,8 @@ const TextRow kClassTexts[] = {
     {L"KyDbUnknownObject", 9654},
     {L"KyDbLongTransaction", 9655},
     {L"KyDbLayerState", 9656},
+    {L"KyDbHatch", 9657},
+    {L"KyDbRegion", 9658},
 };
 
 template <std::size_t N>

@@ -1,6 +1,7 @@
 #include "KyRefEntityRows.h"
 
 #include <memory>
+#include <string>
 
 #include "KyRefFormulas.h"
 #include "KyRefMemberList.h"
@@ -15,6 +16,7 @@
 #include "db/KyDbDatabase.h"
 #include "db/KyDbDimension.h"
 #include "db/KyDbEllipse.h"
+#include "db/KyDbHatch.h"
 #include "db/KyDbLeader.h"
 #include "db/KyDbLine.h"
 #include "db/KyDbMLeader.h"
@@ -94,6 +96,7 @@ const KyRefMemberList kDimensionMembers{kCommon,
                                          {"formulas", "{}"}}};
 const KyRefMemberList kLeaderMembers{kCommon, {{"points"}, {"dimStyle", "\"Standard\""}}};
 const KyRefMemberList kMLeaderMembers{kCommon, {{"style"}, {"points"}, {"text", "\"\""}}};
+const KyRefMemberList kHatchMembers{kCommon, {{"pattern", "\"SOLID\""}, {"loops"}}};
 const KyRefMemberList kViewportMembers{kCommon,
                                        {{"center", nullptr, true},
                                         {"width"},
@@ -546,20 +549,43 @@ void writeViewport(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJs
     }
 }
 
-// ---- Types kept whole: their members are checked, their references too
+// ---- Hatches
 
-KyDbEntity* checkHatch(KyRefReadContext&, const KyRefJsonNode& node) {
+KyDbEntity* readHatch(KyRefReadContext&, const KyRefJsonNode& node) {
+    auto hatch = std::make_unique<KyDbHatch>();
     if (const auto pattern = node.optional("pattern")) {
-        pattern->asString();
+        Check::check(hatch->setPatternName(pattern->asText()), *pattern,
+                     "a pattern name that is not empty");
     }
-    if (const auto loops = node.optional("loops")) {
-        loops->expectArray();
-        for (std::size_t i = 0; i < loops->size(); ++i) {
-            Forms::points(loops->item(i));
+    const KyRefJsonNode loops =
+        node.required("loops", "an array of loops, each an array of at least 3 points");
+    loops.expectArray();
+    KyDbLoopArray read;
+    for (std::size_t i = 0; i < loops.size(); ++i) {
+        const KyRefJsonNode loop = loops.item(i);
+        const KyDbLoop points = Forms::points(loop);
+        if (points.length() < KyDbRegion::kMinLoopPoints) {
+            loop.fail("expected a closed polygon of at least 3 points, found " +
+                      std::to_string(points.length()) +
+                      (points.length() == 1 ? " point" : " points"));
         }
+        read.append(points);
     }
-    return nullptr;
+    Check::check(hatch->setLoops(read), loops, "loops of at least 3 points");
+    return hatch.release();
 }
+
+void writeHatch(KyRefWriteContext&, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& hatch = static_cast<const KyDbHatch&>(entity);
+    out["pattern"] = kyrefUtf8(hatch.patternName());
+    KyRefJson loops = KyRefJson::array();
+    for (const KyDbLoop& loop : hatch.loops()) {
+        loops.push_back(Forms::points(loop));
+    }
+    out["loops"] = std::move(loops);
+}
+
+// ---- Types kept whole: their members are checked, their references too
 
 KyDbEntity* checkImage(KyRefReadContext& context, const KyRefJsonNode& node) {
     context.object(node.required("definition", "the handle of an image definition"),
@@ -620,7 +646,7 @@ const KyRefEntityRow kRows[] = {
     {"LEADER", &classOf<KyDbLeader>, &kLeaderMembers, &readLeader, nullptr, &writeLeader},
     {"MLEADER", &classOf<KyDbMLeader>, &kMLeaderMembers, &readMLeader, nullptr, &writeMLeader},
     {"VIEWPORT", &classOf<KyDbViewport>, &kViewportMembers, &readViewport, nullptr, &writeViewport},
-    {"HATCH", nullptr, &kCommon, &checkHatch, nullptr, nullptr},
+    {"HATCH", &classOf<KyDbHatch>, &kHatchMembers, &readHatch, nullptr, &writeHatch},
     {"IMAGE", nullptr, &kCommon, &checkImage, nullptr, nullptr},
     {"TABLE", nullptr, &kCommon, &checkTable, nullptr, nullptr},
     {"POINTCLOUD", nullptr, &kCommon, &checkPointCloud, nullptr, nullptr},
