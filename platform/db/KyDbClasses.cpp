@@ -46,6 +46,8 @@
 #include "db/KyDbSun.h"
 #include "db/KyDbSymbolTable.h"
 #include "db/KyDbSymbolTableRecord.h"
+#include "db/KyDbTable.h"
+#include "db/KyDbTableCellSelection.h"
 #include "db/KyDbTableStyle.h"
 #include "db/KyDbText.h"
 #include "db/KyDbTextStyleTable.h"
@@ -103,6 +105,8 @@ void kyrxRegisterDatabaseClasses() {
         &KyDbLeader::desc,
         &KyDbMLeader::desc,
         &KyDbViewport::desc,
+        &KyDbTable::desc,
+        &KyDbTableCellSelection::desc,
         &KyDbUnknownEntity::desc,
         &KyDbDictionary::desc,
         &KyDbDictionaryWithDefault::desc,

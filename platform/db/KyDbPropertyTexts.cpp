@@ -109,6 +109,11 @@ const TextRow kPropertyTexts[] = {
     {L"PageSetupName", 9494},
     {L"PlotStyleTable", 9495},
     {L"RasterResolution", 9496},
+    {L"TableStyleId", 9497},
+    {L"Rows", 9498},
+    {L"Columns", 9499},
+    // The second block of names, once the first was full.
+    {L"CellStyle", 9700},
 };
 
 // Local names of the database classes, by class name.
@@ -170,6 +175,8 @@ const TextRow kClassTexts[] = {
     {L"KyDbUnknownObject", 9654},
     {L"KyDbLongTransaction", 9655},
     {L"KyDbLayerState", 9656},
+    {L"KyDbTable", 9657},
+    {L"KyDbTableCellSelection", 9658},
 };
 
 template <std::size_t N>
