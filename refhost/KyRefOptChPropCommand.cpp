@@ -10,6 +10,7 @@
 #include "db/KyDbLeader.h"
 #include "db/KyDbMLeader.h"
 #include "db/KyDbMText.h"
+#include "db/KyDbTable.h"
 #include "db/KyDbText.h"
 
 namespace {
@@ -64,9 +65,14 @@ void changeMLeaderStyle(KyRefCommandContext& context, const Ids& ids) {
         ids, [&](KyDbMLeader& leader) { leader.setMLeaderStyle(style); });
 }
 
-// No object of this host is a table: the name is checked and nothing changes.
-void changeTableStyle(KyRefCommandContext& context, const Ids&) {
-    readStyle(context, &KyDbDatabase::tableStyleDictionaryId, L"table style");
+void changeTableStyle(KyRefCommandContext& context, const Ids& ids) {
+    const KyDbObjectId style =
+        readStyle(context, &KyDbDatabase::tableStyleDictionaryId, L"table style");
+    if (style.isNull()) {
+        return;
+    }
+    KyRefObjectSelection::change<KyDbTable>(ids,
+                                            [&](KyDbTable& table) { table.setTableStyle(style); });
 }
 
 const KyRefObjectSelection::Property kProperties[] = {

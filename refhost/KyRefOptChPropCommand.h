@@ -6,7 +6,7 @@
 //   Textstyle     texts and multiline texts (a dimension or a multileader
 //                 takes the text style of its own style and has none to set)
 //   MLstyle       multileaders
-//   TAblestyle    tables
+//   TAblestyle    tables (their cells keep their cell styles)
 // Objects that don't have the property are left alone. A style the drawing
 // lacks ends the command with an error, and nothing is changed.
 #pragma once

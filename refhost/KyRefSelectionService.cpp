@@ -1,10 +1,13 @@
 #include "KyRefSelectionService.h"
 
+#include "KyRefDocument.h"
 #include "KyRefDocumentManager.h"
 #include "KyRefHost.h"
 #include "KyRefReadAccess.h"
 #include "db/KyDbEntity.h"
 #include "db/KyDbLayerTableRecord.h"
+#include "db/KyDbOpenObject.h"
+#include "db/KyDbTable.h"
 #include "rx/KyRxClass.h"
 
 namespace {
@@ -44,12 +47,61 @@ void KyRefSelectionService::setSelection(const std::vector<KyDbObjectId>& ids) {
     if (document == kKyDiNoDocument) {
         return;
     }
+    const bool hadCells = clearCells(document);
     std::vector<KyDbObjectId>& selected = m_selections[document];
-    if (selected == ids) {
+    if (selected == ids && !hadCells) {
         return;
     }
     selected = ids;
     m_host.events().raiseHostStateChanged();
+}
+
+Kyro::ErrorStatus KyRefSelectionService::selectCells(KyDbObjectId tableId,
+                                                     const KyDbCellRange& cells) {
+    const KyDiDocument document = currentDocument();
+    const KyRefDocument* current = m_host.documents().current();
+    if (document == kKyDiNoDocument || current == nullptr) {
+        return Kyro::eNoCurrentDocument;
+    }
+    if (tableId.isValid() && tableId.database() != current->database()) {
+        return Kyro::eWrongDatabase;
+    }
+    // The sub-selection is state of the session: an open for notify sets it,
+    // alongside any open the table is in, and tells nobody.
+    KyDbTable* table = nullptr;
+    if (const Kyro::ErrorStatus status = kydbOpenObject(table, tableId, KyDb::kForNotify);
+        status != Kyro::eOk) {
+        return status;
+    }
+    const Kyro::ErrorStatus status = table->setSubSelection(cells);
+    table->close();
+    if (status != Kyro::eOk) {
+        return status;
+    }
+    const auto previous = m_cellTables.find(document);
+    if (previous != m_cellTables.end() && previous->second != tableId) {
+        clearCells(document);
+    }
+    m_cellTables[document] = tableId;
+    m_selections[document] = {tableId};
+    m_host.events().raiseHostStateChanged();
+    return Kyro::eOk;
+}
+
+bool KyRefSelectionService::clearCells(KyDiDocument document) {
+    const auto found = m_cellTables.find(document);
+    if (found == m_cellTables.end()) {
+        return false;
+    }
+    const KyDbObjectId tableId = found->second;
+    m_cellTables.erase(found);
+    // An erased table keeps its cells selected no longer either.
+    KyDbTable* table = nullptr;
+    if (kydbOpenObject(table, tableId, KyDb::kForNotify, true) == Kyro::eOk) {
+        table->clearSubSelection();
+        table->close();
+    }
+    return true;
 }
 
 void KyRefSelectionService::clear() {

@@ -3,6 +3,11 @@
 // erased since they were selected drop out of it. A change of the selection is
 // told to the host's reactors (hostStateChanged).
 //
+// Cells of a table can be selected (selectCells): the table then stands in
+// the selection alone, and its sub-selection holds the cells. The next change
+// of the selection (any setSelection or clear) clears that sub-selection,
+// also when it selects the same table again, as a whole.
+//
 // A change of properties leaves alone the selected objects on locked layers
 // (the first group of filterForWrite) and those that are no entities or
 // can't be opened (the second group). getSelectionCounts tells both groups as
@@ -15,6 +20,7 @@
 #include <map>
 #include <vector>
 
+#include "db/KyDbCellRange.h"
 #include "kydi/KyDiSelectionService.h"
 #include "kydi/KyDiTypes.h"
 
@@ -41,6 +47,12 @@ public:
     std::vector<KyDbObjectId> selection() const;
     void setSelection(const std::vector<KyDbObjectId>& ids);
     void clear();
+    // Selects the cells `cells` of the table `tableId` of the current
+    // document: eNoCurrentDocument, eWrongDatabase for a table of another
+    // drawing, the failures of opening it as a KyDbTable (eWasErased,
+    // eNotThatKindOfClass ...) and of KyDbTable::setSubSelection; a failure
+    // leaves the selection as it was.
+    Kyro::ErrorStatus selectCells(KyDbObjectId tableId, const KyDbCellRange& cells);
 
 private:
     // The selected objects of a class, sorted for a change of properties.
@@ -51,10 +63,15 @@ private:
     };
 
     KyDiDocument currentDocument() const;
+    // Clears the sub-selection of the table whose cells are selected in
+    // `document`; true when there was one.
+    bool clearCells(KyDiDocument document);
     // The selection of the current document, of `filterClass` (all objects
     // when it is null).
     WriteCheck checkForWrite(const KyRxClass* filterClass) const;
 
     KyRefHost& m_host;
     std::map<KyDiDocument, std::vector<KyDbObjectId>> m_selections;
+    // The table whose cells are selected, of each document that has one.
+    std::map<KyDiDocument, KyDbObjectId> m_cellTables;
 };

@@ -48,6 +48,8 @@
 #include "db/KyDbSun.h"
 #include "db/KyDbSymbolTable.h"
 #include "db/KyDbSymbolTableRecord.h"
+#include "db/KyDbTable.h"
+#include "db/KyDbTableCellSelection.h"
 #include "db/KyDbTableStyle.h"
 #include "db/KyDbText.h"
 #include "db/KyDbTextStyleTable.h"
@@ -107,6 +109,8 @@ void kyrxRegisterDatabaseClasses() {
         &KyDbViewport::desc,
         &KyDbHatch::desc,
         &KyDbRegion::desc,
+        &KyDbTable::desc,
+        &KyDbTableCellSelection::desc,
         &KyDbUnknownEntity::desc,
         &KyDbDictionary::desc,
         &KyDbDictionaryWithDefault::desc,

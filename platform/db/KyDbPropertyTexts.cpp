@@ -111,6 +111,11 @@ const TextRow kPropertyTexts[] = {
     {L"RasterResolution", 9496},
     {L"PatternName", 9497},
     {L"NumLoops", 9498},
+    // The second block of names, once the first was full.
+    {L"CellStyle", 9700},
+    {L"TableStyleId", 9701},
+    {L"Rows", 9702},
+    {L"Columns", 9703},
 };
 
 // Local names of the database classes, by class name.
@@ -174,6 +179,8 @@ const TextRow kClassTexts[] = {
     {L"KyDbLayerState", 9656},
     {L"KyDbHatch", 9657},
     {L"KyDbRegion", 9658},
+    {L"KyDbTable", 9659},
+    {L"KyDbTableCellSelection", 9660},
 };
 
 template <std::size_t N>

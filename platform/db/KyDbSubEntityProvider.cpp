@@ -3,22 +3,18 @@
 #include "db/KyDbAttribute.h"
 #include "db/KyDbBlockReference.h"
 #include "db/KyDbOpenObject.h"
+#include "db/KyDbTable.h"
+#include "db/KyDbTableCellSelection.h"
 
-Kyro::ErrorStatus KyDbSubEntityProvider::open(KyDbObject* object, KyRxObject*& subEntity,
-                                              const KyDbSubentId& subentId, KyDb::OpenMode mode) {
-    subEntity = nullptr;
-    if (object == nullptr) {
-        return Kyro::eNullObjectPointer;
-    }
-    if (!object->isReadEnabled()) {
-        return Kyro::eInvalidOpenState;
-    }
-    const KyDbBlockReference* reference = kyrxCast<KyDbBlockReference>(object);
-    if (reference == nullptr || subentId.type() != KyDb::kAttributeSubentType) {
+namespace {
+
+Kyro::ErrorStatus openAttribute(const KyDbBlockReference& reference, KyRxObject*& subEntity,
+                                const KyDbSubentId& subentId, KyDb::OpenMode mode) {
+    if (subentId.type() != KyDb::kAttributeSubentType) {
         return Kyro::eNullSubentity;
     }
     KyArray<KyDbObjectId> attributes;
-    reference->getAttributeIds(attributes);
+    reference.getAttributeIds(attributes);
     if (!attributes.isValid(subentId.index())) {
         return Kyro::eNullSubentity;
     }
@@ -30,9 +26,48 @@ Kyro::ErrorStatus KyDbSubEntityProvider::open(KyDbObject* object, KyRxObject*& s
     return status;
 }
 
+Kyro::ErrorStatus openCells(KyDbTable& table, KyRxObject*& subEntity, const KyDbSubentId& subentId,
+                            KyDb::OpenMode mode) {
+    if (!subentId.isNull() || !table.hasSubSelection()) {
+        return Kyro::eNullSubentity;
+    }
+    const bool writable = mode == KyDb::kForWrite;
+    if (writable && !table.isWriteEnabled()) {
+        return Kyro::eWasNotOpenForWrite;
+    }
+    subEntity = new KyDbTableCellSelection(&table, table.subSelection(), writable);
+    return Kyro::eOk;
+}
+
+}  // namespace
+
+Kyro::ErrorStatus KyDbSubEntityProvider::open(KyDbObject* object, KyRxObject*& subEntity,
+                                              const KyDbSubentId& subentId, KyDb::OpenMode mode) {
+    subEntity = nullptr;
+    if (object == nullptr) {
+        return Kyro::eNullObjectPointer;
+    }
+    if (!object->isReadEnabled()) {
+        return Kyro::eInvalidOpenState;
+    }
+    if (const auto* reference = kyrxCast<KyDbBlockReference>(object)) {
+        return openAttribute(*reference, subEntity, subentId, mode);
+    }
+    if (auto* table = kyrxCast<KyDbTable>(object)) {
+        return openCells(*table, subEntity, subentId, mode);
+    }
+    return Kyro::eNullSubentity;
+}
+
 Kyro::ErrorStatus KyDbSubEntityProvider::close(KyDbObject* object, KyRxObject*& subEntity) {
     if (object == nullptr || subEntity == nullptr) {
         return Kyro::eInvalidInput;
+    }
+    if (auto* cells = kyrxCast<KyDbTableCellSelection>(subEntity)) {
+        // Made by open for this opening alone.
+        delete cells;
+        subEntity = nullptr;
+        return Kyro::eOk;
     }
     KyDbObject* part = kyrxCast<KyDbObject>(subEntity);
     if (part == nullptr) {

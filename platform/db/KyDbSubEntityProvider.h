@@ -8,10 +8,15 @@
 //   }
 //
 // The object must be open (eInvalidOpenState otherwise). The parts that can be
-// opened are the attributes of a block reference (KyDb::kAttributeSubentType,
-// by index); any other id, and an index past the last attribute, answer
-// eNullSubentity: the object has no such part. An attribute opens in `mode`
-// with the failures of kydbOpenObject.
+// opened:
+// - an attribute of a block reference (KyDb::kAttributeSubentType, by index).
+//   It opens in `mode` with the failures of kydbOpenObject;
+// - the selected cells of a table with a sub-selection (KyDbTable), by the
+//   null id: a KyDbTableCellSelection, which close() deletes. Opened for
+//   write, the table must be open for write (eWasNotOpenForWrite); for read
+//   or notify its cells are read only.
+// Any other id, an index past the last attribute, and a table without a
+// sub-selection answer eNullSubentity: the object has no such part.
 #pragma once
 
 #include "KyPlatformExport.h"

@@ -27,6 +27,7 @@
 #include "db/KyDbRasterImageDef.h"
 #include "db/KyDbStandardContent.h"
 #include "db/KyDbSun.h"
+#include "db/KyDbTable.h"
 #include "db/KyDbText.h"
 #include "db/KyDbUnknownEntity.h"
 #include "db/KyDbUnknownObject.h"
@@ -112,6 +113,8 @@ const KyRefMemberList kViewportMembers{kCommon,
                                         {"clip"},
                                         {"visualStyle"},
                                         {"sun"}}};
+const KyRefMemberList kTableMembers{
+    kCommon, {{"style"}, {"position", nullptr, true}, {"rows"}, {"columns"}, {"cellStyles", "[]"}}};
 
 template <typename T>
 KyRxClass* classOf() {
@@ -549,6 +552,81 @@ void writeViewport(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJs
     }
 }
 
+// ---- Tables
+
+// The cell styles of a table of `rows` by `columns` cells: [] while every
+// cell has "Data", or one array of names for each row.
+KyStringArray cellStyleGrid(const KyRefJsonNode& node, int rows, int columns) {
+    node.expectArray();
+    KyStringArray grid;
+    if (node.size() == 0) {
+        return grid;
+    }
+    if (node.size() != static_cast<std::size_t>(rows)) {
+        node.fail("expected [] or " + std::to_string(rows) +
+                  " rows of cell style names (one for each row), found " +
+                  std::to_string(node.size()) + (node.size() == 1 ? " row" : " rows"));
+    }
+    for (std::size_t i = 0; i < node.size(); ++i) {
+        const KyRefJsonNode row = node.item(i);
+        row.expectArray();
+        if (row.size() != static_cast<std::size_t>(columns)) {
+            row.fail("expected " + std::to_string(columns) +
+                     " cell style names (one for each column), found " +
+                     std::to_string(row.size()));
+        }
+        for (std::size_t j = 0; j < row.size(); ++j) {
+            const KyRefJsonNode name = row.item(j);
+            const KyString text = name.asText();
+            if (text.isEmpty()) {
+                name.fail("expected the name of a cell style, found \"\"");
+            }
+            grid.append(text);
+        }
+    }
+    return grid;
+}
+
+KyDbEntity* readTable(KyRefReadContext& context, const KyRefJsonNode& node) {
+    auto table = std::make_unique<KyDbTable>();
+    const KyRefJsonNode style = node.required("style", "the name of a table style");
+    Check::check(table->setTableStyle(context.entry(context.database()->tableStyleDictionaryId(),
+                                                    style, "table style")),
+                 style, "the name of a table style");
+    table->setPosition(requiredPoint(node, "position"));
+    // Each count from 1; together no more cells than a table holds.
+    const std::string most =
+        "a table of at most " + std::to_string(KyDbTable::kMaxCells) + " cells";
+    const KyRefJsonNode rows = node.required("rows", "an integer");
+    Check::check(table->setNumRows(rows.asInteger(1, KyDbTable::kMaxCells)), rows, most.c_str());
+    const KyRefJsonNode columns = node.required("columns", "an integer");
+    Check::check(table->setNumColumns(columns.asInteger(1, KyDbTable::kMaxCells)), columns,
+                 most.c_str());
+    if (const auto cellStyles = node.optional("cellStyles")) {
+        table->setCellStyles(cellStyleGrid(*cellStyles, table->numRows(), table->numColumns()));
+    }
+    return table.release();
+}
+
+void writeTable(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& table = static_cast<const KyDbTable&>(entity);
+    out["style"] = context.entryKey(table.tableStyle());
+    out["position"] = Forms::point(table.position());
+    out["rows"] = table.numRows();
+    out["columns"] = table.numColumns();
+    KyRefJson grid = KyRefJson::array();
+    if (!table.cellStyles().isEmpty()) {
+        for (int row = 0; row < table.numRows(); ++row) {
+            KyRefJson names = KyRefJson::array();
+            for (int column = 0; column < table.numColumns(); ++column) {
+                names.push_back(kyrefUtf8(table.cellStyle(row, column)));
+            }
+            grid.push_back(std::move(names));
+        }
+    }
+    out["cellStyles"] = std::move(grid);
+}
+
 // ---- Hatches
 
 KyDbEntity* readHatch(KyRefReadContext&, const KyRefJsonNode& node) {
@@ -601,28 +679,6 @@ KyDbEntity* checkImage(KyRefReadContext& context, const KyRefJsonNode& node) {
     return nullptr;
 }
 
-KyDbEntity* checkTable(KyRefReadContext& context, const KyRefJsonNode& node) {
-    context.keepReference(
-        "style",
-        context.entry(context.database()->tableStyleDictionaryId(),
-                      node.required("style", "the name of a table style"), "table style"),
-        true);
-    requiredPoint(node, "position");
-    node.integer("rows", 0, 1000000);
-    node.integer("columns", 0, 1000000);
-    if (const auto cellStyles = node.optional("cellStyles")) {
-        cellStyles->expectArray();
-        for (std::size_t i = 0; i < cellStyles->size(); ++i) {
-            const KyRefJsonNode row = cellStyles->item(i);
-            row.expectArray();
-            for (std::size_t j = 0; j < row.size(); ++j) {
-                row.item(j).asString();
-            }
-        }
-    }
-    return nullptr;
-}
-
 KyDbEntity* checkPointCloud(KyRefReadContext& context, const KyRefJsonNode& node) {
     context.object(node.required("definition", "the handle of a point cloud definition"),
                    KyDbUnknownObject::desc(), "a point cloud definition (POINTCLOUDDEF object)");
@@ -648,7 +704,7 @@ const KyRefEntityRow kRows[] = {
     {"VIEWPORT", &classOf<KyDbViewport>, &kViewportMembers, &readViewport, nullptr, &writeViewport},
     {"HATCH", &classOf<KyDbHatch>, &kHatchMembers, &readHatch, nullptr, &writeHatch},
     {"IMAGE", nullptr, &kCommon, &checkImage, nullptr, nullptr},
-    {"TABLE", nullptr, &kCommon, &checkTable, nullptr, nullptr},
+    {"TABLE", &classOf<KyDbTable>, &kTableMembers, &readTable, nullptr, &writeTable},
     {"POINTCLOUD", nullptr, &kCommon, &checkPointCloud, nullptr, nullptr},
 };
 

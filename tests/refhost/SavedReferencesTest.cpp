@@ -43,7 +43,7 @@ protected:
     }
 };
 
-TEST_F(SavedReferencesTest, ATableKeptWholeNamesItsStyleAsItIsNamedAtTheSaveAndKeepsItInUse) {
+TEST_F(SavedReferencesTest, ATableNamesItsStyleAsItIsNamedAtTheSaveAndKeepsItInUse) {
     open([](KyRefJson& drawing) {
         drawing["objects"]["entries"]["KYRO_TABLESTYLE"] = {
             {"type", "DICTIONARY"},

@@ -13,6 +13,8 @@
 #include "db/KyDbMLeader.h"
 #include "db/KyDbMLeaderStyle.h"
 #include "db/KyDbMText.h"
+#include "db/KyDbTable.h"
+#include "db/KyDbTableStyle.h"
 #include "db/KyDbText.h"
 #include "db/KyDbTextStyleTableRecord.h"
 
@@ -61,8 +63,8 @@ TEST_F(DimStyleCommandTest, AnUnknownStyleOrAnotherOptionIsAnErrorAndChangesNoth
                                  "commandWillStart -DIMSTYLE", "refreshNeeded false"}));
 }
 
-// A drawing with one object of each annotation kind, all selected, and a
-// line, which has none of the styles.
+// A drawing with one object of each annotation kind and a table, all
+// selected, and a line, which has none of the styles.
 class OptChPropCommandTest : public RefHostTest {
 protected:
     OptChPropCommandTest()
@@ -72,13 +74,18 @@ protected:
           callout(content.addEntry<KyDbMLeaderStyle>(
               db()->mleaderStyleDictionaryId(), L"Callout",
               [](KyDbMLeaderStyle& style) { style.setName(L"Callout"); })),
+          schedule(content.addEntry<KyDbTableStyle>(
+              db()->tableStyleDictionaryId(), L"Schedule",
+              [](KyDbTableStyle& style) { style.setName(L"Schedule"); })),
           dimension(content.addEntity<KyDbDimension>()),
           leader(content.addEntity<KyDbLeader>()),
           text(content.addEntity<KyDbText>()),
           mtext(content.addEntity<KyDbMText>()),
           mleader(content.addEntity<KyDbMLeader>()),
+          table(content.addEntity<KyDbTable>()),
           plain(addEntity()) {
-        host->selectionService()->setSelection({dimension, leader, text, mtext, mleader, plain});
+        host->selectionService()->setSelection(
+            {dimension, leader, text, mtext, mleader, table, plain});
         spy.take();
     }
 
@@ -100,11 +107,13 @@ protected:
     KyDbObjectId mono;
     KyDbObjectId arch;
     KyDbObjectId callout;
+    KyDbObjectId schedule;
     KyDbObjectId dimension;
     KyDbObjectId leader;
     KyDbObjectId text;
     KyDbObjectId mtext;
     KyDbObjectId mleader;
+    KyDbObjectId table;
     KyDbObjectId plain;
 };
 
@@ -113,7 +122,7 @@ TEST_F(OptChPropCommandTest, TheDimensionStyleGoesToDimensionsAndLeaders) {
     EXPECT_EQ(styleOf<KyDbDimension>(dimension, &KyDbDimension::dimensionStyle), arch);
     EXPECT_EQ(styleOf<KyDbLeader>(leader, &KyDbLeader::dimensionStyle), arch);
     EXPECT_EQ(takeLog(),
-              (Lines{"Command: _optchprop", "6 found",
+              (Lines{"Command: _optchprop", "7 found",
                      "Enter property to change [Dimstyle/Textstyle/MLstyle/TAblestyle]: _dimstyle",
                      "Enter new dimension style name: Arch",
                      "Enter property to change [Dimstyle/Textstyle/MLstyle/TAblestyle]: "}));
@@ -134,13 +143,26 @@ TEST_F(OptChPropCommandTest, TheTextStyleGoesToTextsAndTheMultileaderStyleToMult
     EXPECT_EQ(styleOf<KyDbText>(text, &KyDbText::textStyle), mono) << "one command taken back";
 }
 
-TEST_F(OptChPropCommandTest, TheTableStyleIsCheckedAndChangesNoObjectOfThisHost) {
+TEST_F(OptChPropCommandTest, TheTableStyleGoesToTablesAsOneStepThatUTakesBack) {
+    const KyDbObjectId standard = styleOf<KyDbTable>(table, &KyDbTable::tableStyle);
+    ASSERT_NE(standard, schedule);
     const int before = db()->undoController()->undoCount();
-    runCommand(L"_optchprop\n_tablestyle\nStandard\n\n");
-    EXPECT_EQ(db()->undoController()->undoCount(), before) << "nothing was recorded";
+    runCommand(L"_optchprop\n_tablestyle\nSchedule\n\n");
+    EXPECT_EQ(styleOf<KyDbTable>(table, &KyDbTable::tableStyle), schedule);
+    EXPECT_EQ(db()->undoController()->undoCount(), before + 1);
+    EXPECT_EQ(
+        takeLog(),
+        (Lines{"Command: _optchprop", "7 found",
+               "Enter property to change [Dimstyle/Textstyle/MLstyle/TAblestyle]: _tablestyle",
+               "Enter new table style name: Schedule",
+               "Enter property to change [Dimstyle/Textstyle/MLstyle/TAblestyle]: "}));
 
+    run(L"U\n");
+    EXPECT_EQ(styleOf<KyDbTable>(table, &KyDbTable::tableStyle), standard);
+    takeLog();
     run(L"_optchprop\n_tablestyle\nLedger\n\n");
     EXPECT_EQ(takeLog().back(), "Cannot find table style \"Ledger\".");
+    EXPECT_EQ(styleOf<KyDbTable>(table, &KyDbTable::tableStyle), standard);
     EXPECT_TRUE(host->commandNames().isEmpty());
 }
 
