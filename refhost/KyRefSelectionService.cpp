@@ -9,6 +9,35 @@
 
 namespace {
 
+bool isPresent(const KyDbObjectId& id) {
+    return id.isValid() && !id.isErased();
+}
+
+// A path stands while every object on it does.
+bool isPresent(const KyDbFullSubentPath& path) {
+    const KyArray<KyDbObjectId>& ids = path.objectIds();
+    if (ids.isEmpty()) {
+        return false;
+    }
+    for (const KyDbObjectId& id : ids) {
+        if (!isPresent(id)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+template <typename T>
+std::vector<T> present(const std::vector<T>& selected) {
+    std::vector<T> kept;
+    for (const T& entry : selected) {
+        if (isPresent(entry)) {
+            kept.push_back(entry);
+        }
+    }
+    return kept;
+}
+
 void appendIds(KyArray<KyDbObjectId>* out, const std::vector<KyDbObjectId>& ids) {
     if (out == nullptr) {
         return;
@@ -27,28 +56,32 @@ KyDiDocument KyRefSelectionService::currentDocument() const {
 }
 
 std::vector<KyDbObjectId> KyRefSelectionService::selection() const {
-    std::vector<KyDbObjectId> ids;
     const auto found = m_selections.find(currentDocument());
-    if (found != m_selections.end()) {
-        for (const KyDbObjectId& id : found->second) {
-            if (id.isValid() && !id.isErased()) {
-                ids.push_back(id);
-            }
-        }
-    }
-    return ids;
+    return found != m_selections.end() ? present(found->second.ids) : std::vector<KyDbObjectId>();
+}
+
+std::vector<KyDbFullSubentPath> KyRefSelectionService::subentPaths() const {
+    const auto found = m_selections.find(currentDocument());
+    return found != m_selections.end() ? present(found->second.paths)
+                                       : std::vector<KyDbFullSubentPath>();
 }
 
 void KyRefSelectionService::setSelection(const std::vector<KyDbObjectId>& ids) {
+    setSelection(ids, {});
+}
+
+void KyRefSelectionService::setSelection(const std::vector<KyDbObjectId>& ids,
+                                         const std::vector<KyDbFullSubentPath>& paths) {
     const KyDiDocument document = currentDocument();
     if (document == kKyDiNoDocument) {
         return;
     }
-    std::vector<KyDbObjectId>& selected = m_selections[document];
-    if (selected == ids) {
+    Selection& selected = m_selections[document];
+    if (selected.ids == ids && selected.paths == paths) {
         return;
     }
-    selected = ids;
+    selected.ids = ids;
+    selected.paths = paths;
     m_host.events().raiseHostStateChanged();
 }
 
@@ -57,13 +90,16 @@ void KyRefSelectionService::clear() {
 }
 
 bool KyRefSelectionService::hasSelection() {
-    return !selection().empty();
+    return !selection().empty() || !subentPaths().empty();
 }
 
 Kyro::ErrorStatus KyRefSelectionService::getSelection(KyArray<KyDbObjectId>& ids,
-                                                      SubentPathArray&) {
+                                                      SubentPathArray& paths) {
     for (const KyDbObjectId& id : selection()) {
         ids.append(id);
+    }
+    for (const KyDbFullSubentPath& path : subentPaths()) {
+        paths.append(path);
     }
     return Kyro::eOk;
 }

@@ -16,6 +16,7 @@
 #include "KyAppPropertyValue.h"
 #include "KyAppSession.h"
 #include "KyAppStatementReader.h"
+#include "KyAppSubentText.h"
 #include "KyAppSysVarValue.h"
 #include "KyAppSysVarWatch.h"
 #include "KyAppValue.h"
@@ -28,6 +29,7 @@
 #include "db/KyDbDatabase.h"
 #include "db/KyDbHandle.h"
 #include "db/KyDbObjectPointer.h"
+#include "db/KyDbSubEntityProvider.h"
 #include "db/KyDbSymbolTable.h"
 #include "kydi/KyDiColorCollection.h"
 #include "kydi/KyDiContext.h"
@@ -122,7 +124,8 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"refresh", 0, 0, "refresh", &Script::refresh},
         {"clock", 1, 1, "clock +MS", &Script::clock},
         {"echo", 0, -1, "echo TEXT", &Script::echo},
-        {"select", 0, -1, "select HANDLE...", &Script::select},
+        {"select", 0, -1, "select HANDLE|HANDLE/KIND:N...", &Script::select},
+        {"selection", 0, 0, "selection", &Script::printSelection},
         {"viewport", 0, 1, "viewport [HANDLE]", &Script::viewport},
         {"log", 0, 0, "log", &Script::log},
         {"watch", 1, 2,
@@ -308,15 +311,73 @@ bool KyAppScript::select(const KyAppStatement& statement) {
         return fail("the host has no selection");
     }
     std::vector<KyDbObjectId> ids;
+    std::vector<KyDbFullSubentPath> paths;
     for (const KyAppWord& word : statement.words) {
         KyDbObjectId id;
         std::string error;
-        if (!objectOf(word, id, error)) {
+        if (!KyAppSubentText::isSubent(word.text)) {
+            if (!objectOf(word, id, error)) {
+                return fail(error);
+            }
+            ids.push_back(id);
+            continue;
+        }
+        KyAppWord handle;
+        KyDbSubentId subentId;
+        if (!KyAppSubentText::parse(word.text, handle.text, subentId)) {
+            return fail(word.text +
+                        " is no sub-entity: HANDLE/face:N, edge:N, vertex:N or attribute:N");
+        }
+        if (!objectOf(handle, id, error) || !hasPart(id, subentId, error)) {
             return fail(error);
         }
-        ids.push_back(id);
+        paths.emplace_back(id, subentId);
     }
-    selection->setSelection(ids);
+    selection->setSelection(ids, paths);
+    return true;
+}
+
+bool KyAppScript::hasPart(KyDbObjectId id, const KyDbSubentId& subentId, std::string& error) {
+    KyDbObjectPointer<KyDbObject> object(id, KyDb::kForRead);
+    if (object.openStatus() != Kyro::eOk) {
+        error = "can't open " + KyAppValue::object(id.handle()).format() + ": " +
+                statusText(object.openStatus());
+        return false;
+    }
+    KyRxObject* part = nullptr;
+    const Kyro::ErrorStatus status =
+        KyDbSubEntityProvider::open(object.object(), part, subentId, KyDb::kForRead);
+    if (status == Kyro::eOk) {
+        KyDbSubEntityProvider::close(object.object(), part);
+        return true;
+    }
+    const std::string name = KyAppValue::object(id.handle()).format();
+    error = status == Kyro::eNullSubentity ? name + " has no " + KyAppSubentText::describe(subentId)
+                                           : "can't open " + KyAppSubentText::describe(subentId) +
+                                                 " of " + name + ": " + statusText(status);
+    return false;
+}
+
+bool KyAppScript::printSelection(const KyAppStatement&) {
+    KyRefSelectionService* selection = m_session.host().selectionService();
+    if (currentDocument() == nullptr) {
+        return fail("no document is open");
+    }
+    if (selection == nullptr) {
+        return fail("the host has no selection");
+    }
+    KyArray<KyDbObjectId> ids;
+    KyDiSelectionService::SubentPathArray paths;
+    selection->getSelection(ids, paths);
+    if (ids.isEmpty() && paths.isEmpty()) {
+        m_out << "nothing is selected\n";
+    }
+    for (const KyDbObjectId& id : ids) {
+        m_out << KyAppValue::object(id.handle()).format() << '\n';
+    }
+    for (const KyDbFullSubentPath& path : paths) {
+        m_out << KyAppSubentText::format(path) << '\n';
+    }
     return true;
 }
 

@@ -59,6 +59,7 @@ class KyAppHostEventPrinter;
 class KyDiCollection;
 class KyAppObjectWatch;
 class KyDbObjectId;
+class KyDbSubentId;
 class KyDiDynamicObject;
 class KyAppSession;
 class KyAppSysVarWatch;
@@ -97,6 +98,9 @@ private:
     // The object of a handle word ("#1F" or "1F") in the current document,
     // not erased; false with `error` otherwise.
     bool objectOf(const KyAppWord& word, KyDbObjectId& id, std::string& error);
+    // True when the object `id` has the part `subentId` (a face, an edge, a
+    // vertex or an attribute that the provider opens); the reason otherwise.
+    static bool hasPart(KyDbObjectId id, const KyDbSubentId& subentId, std::string& error);
     // The item `name` of a collection, by its display name; null with
     // `error` when there is none.
     static KyDiDynamicObject* itemOf(KyDiCollection* collection, const std::string& collectionName,
@@ -118,6 +122,7 @@ private:
     bool clock(const KyAppStatement& statement);
     bool echo(const KyAppStatement& statement);
     bool select(const KyAppStatement& statement);
+    bool printSelection(const KyAppStatement& statement);
     bool viewport(const KyAppStatement& statement);
     bool log(const KyAppStatement& statement);
     bool watch(const KyAppStatement& statement);

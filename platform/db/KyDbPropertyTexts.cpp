@@ -170,6 +170,10 @@ const TextRow kClassTexts[] = {
     {L"KyDbUnknownObject", 9654},
     {L"KyDbLongTransaction", 9655},
     {L"KyDbLayerState", 9656},
+    // The parts of entities that a selection names (KyDbEntityPart).
+    {L"KyDbFacePart", 9690},
+    {L"KyDbEdgePart", 9691},
+    {L"KyDbVertexPart", 9692},
 };
 
 template <std::size_t N>

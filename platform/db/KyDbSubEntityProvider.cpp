@@ -2,7 +2,55 @@
 
 #include "db/KyDbAttribute.h"
 #include "db/KyDbBlockReference.h"
+#include "db/KyDbEntityPart.h"
+#include "db/KyDbEntityParts.h"
 #include "db/KyDbOpenObject.h"
+
+namespace {
+
+Kyro::ErrorStatus openAttribute(KyDbObject* object, KyRxObject*& subEntity, int index,
+                                KyDb::OpenMode mode) {
+    const KyDbBlockReference* reference = kyrxCast<KyDbBlockReference>(object);
+    if (reference == nullptr) {
+        return Kyro::eNullSubentity;
+    }
+    KyArray<KyDbObjectId> attributes;
+    reference->getAttributeIds(attributes);
+    if (!attributes.isValid(index)) {
+        return Kyro::eNullSubentity;
+    }
+    KyDbAttribute* attribute = nullptr;
+    const Kyro::ErrorStatus status = kydbOpenObject(attribute, attributes[index], mode);
+    if (status == Kyro::eOk) {
+        subEntity = attribute;
+    }
+    return status;
+}
+
+Kyro::ErrorStatus openEntityPart(KyDbObject* object, KyRxObject*& subEntity,
+                                 const KyDbSubentId& subentId, KyDb::OpenMode mode) {
+    const KyDbEntity* entity = kyrxCast<KyDbEntity>(object);
+    if (entity == nullptr) {
+        return Kyro::eNullSubentity;
+    }
+    if (mode != KyDb::kForRead && mode != KyDb::kForWrite && mode != KyDb::kForNotify) {
+        return Kyro::eInvalidInput;
+    }
+    if (!entity->isDatabaseResident()) {
+        return Kyro::eNotInDatabase;
+    }
+    KyDbEntityPart::Geometry geometry;
+    if (!KyDbEntityParts::find(*entity, subentId, geometry)) {
+        return Kyro::eNullSubentity;
+    }
+    if (mode == KyDb::kForWrite && !entity->isWriteEnabled()) {
+        return Kyro::eWasNotOpenForWrite;
+    }
+    subEntity = KyDbEntityPart::create(*entity, subentId, mode);
+    return Kyro::eOk;
+}
+
+}  // namespace
 
 Kyro::ErrorStatus KyDbSubEntityProvider::open(KyDbObject* object, KyRxObject*& subEntity,
                                               const KyDbSubentId& subentId, KyDb::OpenMode mode) {
@@ -13,32 +61,35 @@ Kyro::ErrorStatus KyDbSubEntityProvider::open(KyDbObject* object, KyRxObject*& s
     if (!object->isReadEnabled()) {
         return Kyro::eInvalidOpenState;
     }
-    const KyDbBlockReference* reference = kyrxCast<KyDbBlockReference>(object);
-    if (reference == nullptr || subentId.type() != KyDb::kAttributeSubentType) {
-        return Kyro::eNullSubentity;
+    switch (subentId.type()) {
+        case KyDb::kAttributeSubentType:
+            return openAttribute(object, subEntity, subentId.index(), mode);
+        case KyDb::kFaceSubentType:
+        case KyDb::kEdgeSubentType:
+        case KyDb::kVertexSubentType:
+            return openEntityPart(object, subEntity, subentId, mode);
+        default:
+            return Kyro::eNullSubentity;
     }
-    KyArray<KyDbObjectId> attributes;
-    reference->getAttributeIds(attributes);
-    if (!attributes.isValid(subentId.index())) {
-        return Kyro::eNullSubentity;
-    }
-    KyDbAttribute* attribute = nullptr;
-    const Kyro::ErrorStatus status = kydbOpenObject(attribute, attributes[subentId.index()], mode);
-    if (status == Kyro::eOk) {
-        subEntity = attribute;
-    }
-    return status;
 }
 
 Kyro::ErrorStatus KyDbSubEntityProvider::close(KyDbObject* object, KyRxObject*& subEntity) {
     if (object == nullptr || subEntity == nullptr) {
         return Kyro::eInvalidInput;
     }
-    KyDbObject* part = kyrxCast<KyDbObject>(subEntity);
-    if (part == nullptr) {
+    if (KyDbEntityPart* part = kyrxCast<KyDbEntityPart>(subEntity)) {
+        if (part->entityId() != object->objectId()) {
+            return Kyro::eInvalidInput;
+        }
+        delete part;
+        subEntity = nullptr;
+        return Kyro::eOk;
+    }
+    KyDbObject* attribute = kyrxCast<KyDbObject>(subEntity);
+    if (attribute == nullptr) {
         return Kyro::eInvalidInput;
     }
-    const Kyro::ErrorStatus status = part->close();
+    const Kyro::ErrorStatus status = attribute->close();
     subEntity = nullptr;
     return status;
 }

@@ -7,11 +7,20 @@
 //       KyDbSubEntityProvider::close(reference, part);
 //   }
 //
-// The object must be open (eInvalidOpenState otherwise). The parts that can be
-// opened are the attributes of a block reference (KyDb::kAttributeSubentType,
-// by index); any other id, and an index past the last attribute, answer
-// eNullSubentity: the object has no such part. An attribute opens in `mode`
-// with the failures of kydbOpenObject.
+// The object must be open for read or write (eInvalidOpenState otherwise).
+// The parts that can be opened:
+// - the attributes of a block reference (KyDb::kAttributeSubentType, by
+//   index among those not erased): the attribute itself, opened in `mode`
+//   with the failures of kydbOpenObject;
+// - the faces, edges and vertices of an entity (KyDbEntityParts.h says which
+//   classes have which): a KyDbVertexPart, KyDbEdgePart or KyDbFacePart that
+//   stands for the part and is read-only in every mode. It is opened in
+//   `mode` (eInvalidInput for another mode); a write-open needs the entity
+//   open for write (eWasNotOpenForWrite), and the entity must be in a
+//   database (eNotInDatabase). Close it before the entity: it reads the
+//   entity's geometry while it is open.
+// Any other id, and an index past the last part of its kind, answer
+// eNullSubentity: the object has no such part.
 #pragma once
 
 #include "KyPlatformExport.h"
@@ -27,6 +36,7 @@ public:
     // `subEntity` is null on failure.
     static Kyro::ErrorStatus open(KyDbObject* object, KyRxObject*& subEntity,
                                   const KyDbSubentId& subentId, KyDb::OpenMode mode);
-    // Closes what open gave, and nulls `subEntity`; eInvalidInput for null.
+    // Closes what open gave for `object`, and nulls `subEntity`; eInvalidInput
+    // for null, or for a part of another entity (which stays open).
     static Kyro::ErrorStatus close(KyDbObject* object, KyRxObject*& subEntity);
 };
