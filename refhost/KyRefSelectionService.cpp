@@ -12,6 +12,35 @@
 
 namespace {
 
+bool isPresent(const KyDbObjectId& id) {
+    return id.isValid() && !id.isErased();
+}
+
+// A path stands while every object on it does.
+bool isPresent(const KyDbFullSubentPath& path) {
+    const KyArray<KyDbObjectId>& ids = path.objectIds();
+    if (ids.isEmpty()) {
+        return false;
+    }
+    for (const KyDbObjectId& id : ids) {
+        if (!isPresent(id)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+template <typename T>
+std::vector<T> present(const std::vector<T>& selected) {
+    std::vector<T> kept;
+    for (const T& entry : selected) {
+        if (isPresent(entry)) {
+            kept.push_back(entry);
+        }
+    }
+    return kept;
+}
+
 void appendIds(KyArray<KyDbObjectId>* out, const std::vector<KyDbObjectId>& ids) {
     if (out == nullptr) {
         return;
@@ -30,29 +59,33 @@ KyDiDocument KyRefSelectionService::currentDocument() const {
 }
 
 std::vector<KyDbObjectId> KyRefSelectionService::selection() const {
-    std::vector<KyDbObjectId> ids;
     const auto found = m_selections.find(currentDocument());
-    if (found != m_selections.end()) {
-        for (const KyDbObjectId& id : found->second) {
-            if (id.isValid() && !id.isErased()) {
-                ids.push_back(id);
-            }
-        }
-    }
-    return ids;
+    return found != m_selections.end() ? present(found->second.ids) : std::vector<KyDbObjectId>();
+}
+
+std::vector<KyDbFullSubentPath> KyRefSelectionService::subentPaths() const {
+    const auto found = m_selections.find(currentDocument());
+    return found != m_selections.end() ? present(found->second.paths)
+                                       : std::vector<KyDbFullSubentPath>();
 }
 
 void KyRefSelectionService::setSelection(const std::vector<KyDbObjectId>& ids) {
+    setSelection(ids, {});
+}
+
+void KyRefSelectionService::setSelection(const std::vector<KyDbObjectId>& ids,
+                                         const std::vector<KyDbFullSubentPath>& paths) {
     const KyDiDocument document = currentDocument();
     if (document == kKyDiNoDocument) {
         return;
     }
     const bool hadCells = clearCells(document);
-    std::vector<KyDbObjectId>& selected = m_selections[document];
-    if (selected == ids && !hadCells) {
+    Selection& selected = m_selections[document];
+    if (selected.ids == ids && selected.paths == paths && !hadCells) {
         return;
     }
-    selected = ids;
+    selected.ids = ids;
+    selected.paths = paths;
     m_host.events().raiseHostStateChanged();
 }
 
@@ -83,7 +116,7 @@ Kyro::ErrorStatus KyRefSelectionService::selectCells(KyDbObjectId tableId,
         clearCells(document);
     }
     m_cellTables[document] = tableId;
-    m_selections[document] = {tableId};
+    m_selections[document] = Selection{{tableId}, {}};
     m_host.events().raiseHostStateChanged();
     return Kyro::eOk;
 }
@@ -109,13 +142,16 @@ void KyRefSelectionService::clear() {
 }
 
 bool KyRefSelectionService::hasSelection() {
-    return !selection().empty();
+    return !selection().empty() || !subentPaths().empty();
 }
 
 Kyro::ErrorStatus KyRefSelectionService::getSelection(KyArray<KyDbObjectId>& ids,
-                                                      SubentPathArray&) {
+                                                      SubentPathArray& paths) {
     for (const KyDbObjectId& id : selection()) {
         ids.append(id);
+    }
+    for (const KyDbFullSubentPath& path : subentPaths()) {
+        paths.append(path);
     }
     return Kyro::eOk;
 }

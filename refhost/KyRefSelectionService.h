@@ -1,7 +1,10 @@
-// KyRefSelectionService: what is selected in each open document. The
-// selection of the current document is what the service answers; objects
-// erased since they were selected drop out of it. A change of the selection is
-// told to the host's reactors (hostStateChanged).
+// KyRefSelectionService: what is selected in each open document: objects by
+// id, and sub-entities (faces, edges, vertices, attributes) by their path. A
+// path names only the part; its entity is among the ids only when it is
+// selected itself. The selection of the current document is what the service
+// answers; objects erased since they were selected drop out of it, and so do
+// the paths through an erased object. A change of the selection is told to
+// the host's reactors (hostStateChanged).
 //
 // Cells of a table can be selected (selectCells): the table then stands in
 // the selection alone, and its sub-selection holds the cells. The next change
@@ -21,6 +24,7 @@
 #include <vector>
 
 #include "db/KyDbCellRange.h"
+#include "db/KyDbFullSubentPath.h"
 #include "kydi/KyDiSelectionService.h"
 #include "kydi/KyDiTypes.h"
 
@@ -31,7 +35,7 @@ public:
     explicit KyRefSelectionService(KyRefHost& host);
 
     bool hasSelection() override;
-    // Appends the selected objects; no sub-entities are ever selected.
+    // Appends the selected objects, then the selected sub-entities.
     Kyro::ErrorStatus getSelection(KyArray<KyDbObjectId>& ids, SubentPathArray& paths) override;
     Kyro::ErrorStatus filterForWrite(int mode, int& total, int& excludedA, int& excludedB,
                                      const KyRxClass* filterClass,
@@ -45,7 +49,11 @@ public:
 
     // ---- The host's side, for the current document
     std::vector<KyDbObjectId> selection() const;
+    std::vector<KyDbFullSubentPath> subentPaths() const;
+    // Selects `ids` and no sub-entities.
     void setSelection(const std::vector<KyDbObjectId>& ids);
+    void setSelection(const std::vector<KyDbObjectId>& ids,
+                      const std::vector<KyDbFullSubentPath>& paths);
     void clear();
     // Selects the cells `cells` of the table `tableId` of the current
     // document: eNoCurrentDocument, eWrongDatabase for a table of another
@@ -70,8 +78,15 @@ private:
     // when it is null).
     WriteCheck checkForWrite(const KyRxClass* filterClass) const;
 
+    // What one document has selected, as it was given: what has been erased
+    // since is left out when it is read.
+    struct Selection {
+        std::vector<KyDbObjectId> ids;
+        std::vector<KyDbFullSubentPath> paths;
+    };
+
     KyRefHost& m_host;
-    std::map<KyDiDocument, std::vector<KyDbObjectId>> m_selections;
+    std::map<KyDiDocument, Selection> m_selections;
     // The table whose cells are selected, of each document that has one.
     std::map<KyDiDocument, KyDbObjectId> m_cellTables;
 };

@@ -17,6 +17,7 @@
 #include "KyAppPropertyValue.h"
 #include "KyAppSession.h"
 #include "KyAppStatementReader.h"
+#include "KyAppSubentText.h"
 #include "KyAppSysVarValue.h"
 #include "KyAppSysVarWatch.h"
 #include "KyAppValue.h"
@@ -29,7 +30,9 @@
 #include "db/KyDbDatabase.h"
 #include "db/KyDbHandle.h"
 #include "db/KyDbObjectPointer.h"
+#include "db/KyDbSubEntityProvider.h"
 #include "db/KyDbSymbolTable.h"
+#include "db/KyDbTable.h"
 #include "kydi/KyDiColorCollection.h"
 #include "kydi/KyDiContext.h"
 #include "kydi/KyDiContextManager.h"
@@ -88,6 +91,8 @@ std::string statusText(Kyro::ErrorStatus status) {
             return "not found";
         case Kyro::eWasOpenedForWrite:
             return "the object is open for write elsewhere";
+        case Kyro::eInvalidIndex:
+            return "no such row or column";
         default:
             return "status " + std::to_string(static_cast<int>(status));
     }
@@ -131,7 +136,8 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"refresh", 0, 0, "refresh", &Script::refresh},
         {"clock", 1, 1, "clock +MS", &Script::clock},
         {"echo", 0, -1, "echo TEXT", &Script::echo},
-        {"select", 0, -1, "select HANDLE...", &Script::select},
+        {"select", 0, -1, "select HANDLE|HANDLE/KIND:N...", &Script::select},
+        {"selection", 0, 0, "selection", &Script::printSelection},
         {"viewport", 0, 1, "viewport [HANDLE]", &Script::viewport},
         {"log", 0, 0, "log", &Script::log},
         {"watch", 1, 2,
@@ -317,15 +323,106 @@ bool KyAppScript::select(const KyAppStatement& statement) {
         return fail("the host has no selection");
     }
     std::vector<KyDbObjectId> ids;
+    std::vector<KyDbFullSubentPath> paths;
     for (const KyAppWord& word : statement.words) {
         KyDbObjectId id;
         std::string error;
-        if (!objectOf(word, id, error)) {
+        if (KyAppSubentText::isCells(word.text)) {
+            return statement.words.size() == 1 ? selectCells(word, *selection)
+                                               : fail("cells are selected alone: " + word.text);
+        }
+        if (!KyAppSubentText::isSubent(word.text)) {
+            if (!objectOf(word, id, error)) {
+                return fail(error);
+            }
+            ids.push_back(id);
+            continue;
+        }
+        KyAppWord handle;
+        KyDbSubentId subentId;
+        if (!KyAppSubentText::parse(word.text, handle.text, subentId)) {
+            return fail(word.text +
+                        " is no sub-entity: HANDLE/face:N, edge:N, vertex:N or attribute:N");
+        }
+        if (!objectOf(handle, id, error) || !hasPart(id, subentId, error)) {
             return fail(error);
         }
-        ids.push_back(id);
+        paths.emplace_back(id, subentId);
     }
-    selection->setSelection(ids);
+    selection->setSelection(ids, paths);
+    return true;
+}
+
+bool KyAppScript::selectCells(const KyAppWord& cellsWord, KyRefSelectionService& selection) {
+    const std::string& word = cellsWord.text;
+    KyAppWord handle;
+    KyDbCellRange cells;
+    if (!KyAppSubentText::parseCells(word, handle.text, cells)) {
+        return fail(word + " names no cells: HANDLE/cells:ROW,COLUMN[,ROW,COLUMN]");
+    }
+    KyDbObjectId id;
+    std::string error;
+    if (!objectOf(handle, id, error)) {
+        return fail(error);
+    }
+    const Kyro::ErrorStatus status = selection.selectCells(id, cells);
+    if (status == Kyro::eNotThatKindOfClass) {
+        return fail(KyAppValue::object(id.handle()).format() + " is no table");
+    }
+    if (status != Kyro::eOk) {
+        return fail("the cells of " + KyAppValue::object(id.handle()).format() +
+                    " can't be selected: " + statusText(status));
+    }
+    return true;
+}
+
+bool KyAppScript::hasPart(KyDbObjectId id, const KyDbSubentId& subentId, std::string& error) {
+    KyDbObjectPointer<KyDbObject> object(id, KyDb::kForRead);
+    if (object.openStatus() != Kyro::eOk) {
+        error = "can't open " + KyAppValue::object(id.handle()).format() + ": " +
+                statusText(object.openStatus());
+        return false;
+    }
+    KyRxObject* part = nullptr;
+    const Kyro::ErrorStatus status =
+        KyDbSubEntityProvider::open(object.object(), part, subentId, KyDb::kForRead);
+    if (status == Kyro::eOk) {
+        KyDbSubEntityProvider::close(object.object(), part);
+        return true;
+    }
+    const std::string name = KyAppValue::object(id.handle()).format();
+    error = status == Kyro::eNullSubentity ? name + " has no " + KyAppSubentText::describe(subentId)
+                                           : "can't open " + KyAppSubentText::describe(subentId) +
+                                                 " of " + name + ": " + statusText(status);
+    return false;
+}
+
+bool KyAppScript::printSelection(const KyAppStatement&) {
+    KyRefSelectionService* selection = m_session.host().selectionService();
+    if (currentDocument() == nullptr) {
+        return fail("no document is open");
+    }
+    if (selection == nullptr) {
+        return fail("the host has no selection");
+    }
+    KyArray<KyDbObjectId> ids;
+    KyDiSelectionService::SubentPathArray paths;
+    selection->getSelection(ids, paths);
+    if (ids.isEmpty() && paths.isEmpty()) {
+        m_out << "nothing is selected\n";
+    }
+    for (const KyDbObjectId& id : ids) {
+        m_out << KyAppValue::object(id.handle()).format();
+        // A table whose cells are selected shows them.
+        KyDbObjectPointer<KyDbTable> table(id, KyDb::kForRead);
+        if (table.openStatus() == Kyro::eOk && table->hasSubSelection()) {
+            m_out << '/' << KyAppSubentText::formatCells(table->subSelection());
+        }
+        m_out << '\n';
+    }
+    for (const KyDbFullSubentPath& path : paths) {
+        m_out << KyAppSubentText::format(path) << '\n';
+    }
     return true;
 }
 

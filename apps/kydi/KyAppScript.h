@@ -60,12 +60,14 @@ class KyAppHostEventPrinter;
 class KyDiCollection;
 class KyAppObjectWatch;
 class KyDbObjectId;
+class KyDbSubentId;
 class KyDiDynamicObject;
 class KyAppObjectContext;
 class KyDiContext;
 class KyAppSession;
 class KyAppSysVarWatch;
 class KyRefDocument;
+class KyRefSelectionService;
 class KyRxProperty;
 class KyRxValue;
 
@@ -100,6 +102,11 @@ private:
     // The object of a handle word ("#1F" or "1F") in the current document,
     // not erased; false with `error` otherwise.
     bool objectOf(const KyAppWord& word, KyDbObjectId& id, std::string& error);
+    // True when the object `id` has the part `subentId` (a face, an edge, a
+    // vertex or an attribute that the provider opens); the reason otherwise.
+    // `select HANDLE/cells:...`: the cells of a table, selected alone.
+    bool selectCells(const KyAppWord& cellsWord, KyRefSelectionService& selection);
+    static bool hasPart(KyDbObjectId id, const KyDbSubentId& subentId, std::string& error);
     // The item `name` of a collection, by its display name; null with
     // `error` when there is none.
     static KyDiDynamicObject* itemOf(KyDiCollection* collection, const std::string& collectionName,
@@ -121,6 +128,7 @@ private:
     bool clock(const KyAppStatement& statement);
     bool echo(const KyAppStatement& statement);
     bool select(const KyAppStatement& statement);
+    bool printSelection(const KyAppStatement& statement);
     bool viewport(const KyAppStatement& statement);
     bool log(const KyAppStatement& statement);
     bool watch(const KyAppStatement& statement);

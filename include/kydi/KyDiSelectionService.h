@@ -9,9 +9,9 @@
 #include "kydi/KyDiExport.h"
 
 class KyRxClass;
-// A path from a selected entity down to one of its faces, edges or vertices;
-// a drawing database type that the platform does not declare yet. It copies
-// through constructors, hence the reallocator below.
+// A path from a selected entity down to one of its faces, edges, vertices or
+// attributes (db/KyDbFullSubentPath.h). It copies through constructors, hence
+// the reallocator below.
 class KyDbFullSubentPath;
 
 class KYDI_API KyDiSelectionService {

@@ -8,7 +8,9 @@
 // database of their own, appended through the reference and kept in its list
 // in the order appended, as a block keeps its entities. Erasing or unerasing
 // the reference does the same to its attributes. Selected, an attribute is a
-// sub-entity of the reference (KyDbSubEntityProvider).
+// sub-entity of the reference (KyDbSubEntityProvider). A change of an
+// attribute is a change of the reference too: its reactors hear of it when
+// the attribute is closed (KyDbObject.h).
 //
 // A reference of a dynamic block (one with parameters of its own, "dynamic"
 // in a drawing file) says so by isDynamic; KyDbDynBlockReference reads it.

@@ -17,9 +17,12 @@
 #include "db/KyDbDimStyleTable.h"
 #include "db/KyDbDimStyleTableRecord.h"
 #include "db/KyDbDimension.h"
+#include "db/KyDbEdgePart.h"
 #include "db/KyDbEllipse.h"
 #include "db/KyDbEntity.h"
 #include "db/KyDbHatch.h"
+#include "db/KyDbEntityPart.h"
+#include "db/KyDbFacePart.h"
 #include "db/KyDbLayerState.h"
 #include "db/KyDbLayerTable.h"
 #include "db/KyDbLayerTableRecord.h"
@@ -58,6 +61,7 @@
 #include "db/KyDbUCSTableRecord.h"
 #include "db/KyDbUnknownEntity.h"
 #include "db/KyDbUnknownObject.h"
+#include "db/KyDbVertexPart.h"
 #include "db/KyDbViewTable.h"
 #include "db/KyDbViewTableRecord.h"
 #include "db/KyDbViewport.h"
@@ -132,6 +136,10 @@ void kyrxRegisterDatabaseClasses() {
         &KyDbRasterImageDef::desc,
         &KyDbUnknownObject::desc,
         &KyDbLongTransaction::desc,
+        &KyDbEntityPart::desc,
+        &KyDbFacePart::desc,
+        &KyDbEdgePart::desc,
+        &KyDbVertexPart::desc,
     };
     for (Desc desc : kClasses) {
         desc();

@@ -33,6 +33,11 @@
 //   objectErased, the dictionary's reactors hear modified (database reactors
 //   objectModified), then objectClosed(dictionary id). A dictionary open for
 //   write then counts as changed and tells them at its close.
+// - The close (or downgradeOpen) of an attribute that changed changes its
+//   block reference: right after the attribute's objectClosed, the
+//   reference's reactors hear modified (database reactors objectModified),
+//   then objectClosed(reference id); a reference open for write counts as
+//   changed and tells them at its close.
 // - An append: objectAppended, with the new object open for write.
 // - Undo or redo of a change: modifyUndone, then the close notifications as
 //   above. An undone erase is an unerase and a redone one an erase, told as

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "db/KyDbAttribute.h"
+#include "db/KyDbBlockReference.h"
 #include "db/KyDbDictionary.h"
 #include "db/KyDbOpenObject.h"
 #include "db/KyDbStubArena.h"
@@ -147,6 +149,7 @@ void KyDbObjectAccess::endWrite(KyDbObject* object, bool toRead) {
     if (changed) {
         const KyDbObjectId id = object->objectId();
         tellObjectReactors(object, [id](auto* reactor) { reactor->objectClosed(id); });
+        tellReferenceOfAttribute(object);
     }
     database->writeOpenEnded();
 }
@@ -273,21 +276,39 @@ void KyDbObjectAccess::tellDictionaryOfEntry(KyDbObject* entry) {
     if (dictionary == nullptr || !dictionary->holds(entry->objectId())) {
         return;
     }
-    if (dictionary->m_writer) {
+    tellOwnerOfChange(dictionary);
+}
+
+void KyDbObjectAccess::tellReferenceOfAttribute(KyDbObject* object) {
+    if (kyrxCast<KyDbAttribute>(object) == nullptr) {
+        return;
+    }
+    const KyDbStub* ownerStub = object->m_ownerId.stub();
+    KyDbBlockReference* reference =
+        ownerStub != nullptr ? kyrxCast<KyDbBlockReference>(ownerStub->object) : nullptr;
+    if (reference == nullptr || isGoingAway(reference) ||
+        isDestroying(reference->m_stub->database)) {
+        return;
+    }
+    tellOwnerOfChange(reference);
+}
+
+void KyDbObjectAccess::tellOwnerOfChange(KyDbObject* owner) {
+    if (owner->m_writer) {
         // With a before-image: what its opener changes after this is undone
         // with the rest.
-        if ((dictionary->m_flags & KyDbObject::kChanged) == 0) {
-            startChange(dictionary);
+        if ((owner->m_flags & KyDbObject::kChanged) == 0) {
+            startChange(owner);
         }
         return;
     }
-    KyDbDatabase* database = dictionary->m_stub->database;
-    tellObjectReactors(dictionary, [dictionary](auto* reactor) { reactor->modified(dictionary); });
-    tellDatabaseReactors(database, [database, dictionary](KyDbDatabaseReactor* reactor) {
-        reactor->objectModified(database, dictionary);
+    KyDbDatabase* database = owner->m_stub->database;
+    tellObjectReactors(owner, [owner](auto* reactor) { reactor->modified(owner); });
+    tellDatabaseReactors(database, [database, owner](KyDbDatabaseReactor* reactor) {
+        reactor->objectModified(database, owner);
     });
-    const KyDbObjectId id = dictionary->objectId();
-    tellObjectReactors(dictionary, [id](auto* reactor) { reactor->objectClosed(id); });
+    const KyDbObjectId id = owner->objectId();
+    tellObjectReactors(owner, [id](auto* reactor) { reactor->objectClosed(id); });
 }
 
 void KyDbObjectAccess::setRestoring(KyDbObject* object, bool restoring) {

@@ -85,6 +85,16 @@ public:
     // changed, and its close tells it; otherwise its reactors hear modified
     // (and the database reactors objectModified), then objectClosed, at once.
     static void tellDictionaryOfEntry(KyDbObject* entry);
+    // A changed attribute changes what its block reference shows: at the
+    // attribute's close (after its objectClosed) the reference is told as a
+    // dictionary is of its entries, so that a watcher of the reference sees
+    // its attributes' edits.
+    static void tellReferenceOfAttribute(KyDbObject* object);
+    // Tells `owner` that what it holds has changed: an owner open for write
+    // counts as changed, and its close tells it; otherwise its reactors hear
+    // modified (and the database reactors objectModified), then objectClosed,
+    // at once.
+    static void tellOwnerOfChange(KyDbObject* owner);
     // While undo restores an object, its changes take no before-image and
     // tell no openedForModify.
     static void setRestoring(KyDbObject* object, bool restoring);

@@ -181,6 +181,10 @@ const TextRow kClassTexts[] = {
     {L"KyDbRegion", 9658},
     {L"KyDbTable", 9659},
     {L"KyDbTableCellSelection", 9660},
+    // The parts of entities that a selection names (KyDbEntityPart).
+    {L"KyDbFacePart", 9690},
+    {L"KyDbEdgePart", 9691},
+    {L"KyDbVertexPart", 9692},
 };
 
 template <std::size_t N>

@@ -2,28 +2,54 @@
 
 #include "db/KyDbAttribute.h"
 #include "db/KyDbBlockReference.h"
+#include "db/KyDbEntityPart.h"
+#include "db/KyDbEntityParts.h"
 #include "db/KyDbOpenObject.h"
 #include "db/KyDbTable.h"
 #include "db/KyDbTableCellSelection.h"
 
 namespace {
 
-Kyro::ErrorStatus openAttribute(const KyDbBlockReference& reference, KyRxObject*& subEntity,
-                                const KyDbSubentId& subentId, KyDb::OpenMode mode) {
-    if (subentId.type() != KyDb::kAttributeSubentType) {
+Kyro::ErrorStatus openAttribute(KyDbObject* object, KyRxObject*& subEntity, int index,
+                                KyDb::OpenMode mode) {
+    const KyDbBlockReference* reference = kyrxCast<KyDbBlockReference>(object);
+    if (reference == nullptr) {
         return Kyro::eNullSubentity;
     }
     KyArray<KyDbObjectId> attributes;
-    reference.getAttributeIds(attributes);
-    if (!attributes.isValid(subentId.index())) {
+    reference->getAttributeIds(attributes);
+    if (!attributes.isValid(index)) {
         return Kyro::eNullSubentity;
     }
     KyDbAttribute* attribute = nullptr;
-    const Kyro::ErrorStatus status = kydbOpenObject(attribute, attributes[subentId.index()], mode);
+    const Kyro::ErrorStatus status = kydbOpenObject(attribute, attributes[index], mode);
     if (status == Kyro::eOk) {
         subEntity = attribute;
     }
     return status;
+}
+
+Kyro::ErrorStatus openEntityPart(KyDbObject* object, KyRxObject*& subEntity,
+                                 const KyDbSubentId& subentId, KyDb::OpenMode mode) {
+    const KyDbEntity* entity = kyrxCast<KyDbEntity>(object);
+    if (entity == nullptr) {
+        return Kyro::eNullSubentity;
+    }
+    if (mode != KyDb::kForRead && mode != KyDb::kForWrite && mode != KyDb::kForNotify) {
+        return Kyro::eInvalidInput;
+    }
+    if (!entity->isDatabaseResident()) {
+        return Kyro::eNotInDatabase;
+    }
+    KyDbEntityPart::Geometry geometry;
+    if (!KyDbEntityParts::find(*entity, subentId, geometry)) {
+        return Kyro::eNullSubentity;
+    }
+    if (mode == KyDb::kForWrite && !entity->isWriteEnabled()) {
+        return Kyro::eWasNotOpenForWrite;
+    }
+    subEntity = KyDbEntityPart::create(*entity, subentId, mode);
+    return Kyro::eOk;
 }
 
 Kyro::ErrorStatus openCells(KyDbTable& table, KyRxObject*& subEntity, const KyDbSubentId& subentId,
@@ -50,13 +76,19 @@ Kyro::ErrorStatus KyDbSubEntityProvider::open(KyDbObject* object, KyRxObject*& s
     if (!object->isReadEnabled()) {
         return Kyro::eInvalidOpenState;
     }
-    if (const auto* reference = kyrxCast<KyDbBlockReference>(object)) {
-        return openAttribute(*reference, subEntity, subentId, mode);
-    }
     if (auto* table = kyrxCast<KyDbTable>(object)) {
         return openCells(*table, subEntity, subentId, mode);
     }
-    return Kyro::eNullSubentity;
+    switch (subentId.type()) {
+        case KyDb::kAttributeSubentType:
+            return openAttribute(object, subEntity, subentId.index(), mode);
+        case KyDb::kFaceSubentType:
+        case KyDb::kEdgeSubentType:
+        case KyDb::kVertexSubentType:
+            return openEntityPart(object, subEntity, subentId, mode);
+        default:
+            return Kyro::eNullSubentity;
+    }
 }
 
 Kyro::ErrorStatus KyDbSubEntityProvider::close(KyDbObject* object, KyRxObject*& subEntity) {
@@ -69,11 +101,19 @@ Kyro::ErrorStatus KyDbSubEntityProvider::close(KyDbObject* object, KyRxObject*& 
         subEntity = nullptr;
         return Kyro::eOk;
     }
-    KyDbObject* part = kyrxCast<KyDbObject>(subEntity);
-    if (part == nullptr) {
+    if (KyDbEntityPart* part = kyrxCast<KyDbEntityPart>(subEntity)) {
+        if (part->entityId() != object->objectId()) {
+            return Kyro::eInvalidInput;
+        }
+        delete part;
+        subEntity = nullptr;
+        return Kyro::eOk;
+    }
+    KyDbObject* attribute = kyrxCast<KyDbObject>(subEntity);
+    if (attribute == nullptr) {
         return Kyro::eInvalidInput;
     }
-    const Kyro::ErrorStatus status = part->close();
+    const Kyro::ErrorStatus status = attribute->close();
     subEntity = nullptr;
     return status;
 }

@@ -182,6 +182,10 @@ TEST_F(Program, AViewportOfTheLayoutShownIsEnteredAndLeftAndTheDrawingKeepsIt) {
     EXPECT_EQ(detailsBlock, "*Paper_Space") << "the block of the layout shown";
 }
 
+TEST_F(Program, SubEntitiesAreSelectedBesideObjectsAndBadFormsAreErrors) {
+    expectScript("select_subentities", 1);
+}
+
 TEST_F(Program, DocumentsOpenSwitchAndCloseWithTheHostsEvents) {
     expectScript("documents", 0);
     EXPECT_TRUE(fs::exists(folder / "drawing1.kyd"));

@@ -115,13 +115,16 @@ TEST_F(DbItems, ADictionaryEntryIsNamedByItsKeyWhichItCantChange) {
 
 TEST_F(DbItems, ASubEntityIsNamedByItsKindAndLeadsToItsEntity) {
     const KyDbObjectId line = addLine();
+    // A line has an edge and vertices to open; for a face, which it lacks,
+    // and for the null id the class is the line's.
     const struct {
         KyDb::SubentType type;
         const wchar_t* name;
-    } kKinds[] = {{KyDb::kFaceSubentType, L"FaceSubEntity"},
-                  {KyDb::kEdgeSubentType, L"EdgeSubEntity"},
-                  {KyDb::kVertexSubentType, L"VertexSubEntity"},
-                  {KyDb::kNullSubentType, L"SubEntity"}};
+        const wchar_t* className;
+    } kKinds[] = {{KyDb::kFaceSubentType, L"FaceSubEntity", L"KyDbLine"},
+                  {KyDb::kEdgeSubentType, L"EdgeSubEntity", L"KyDbEdgePart"},
+                  {KyDb::kVertexSubentType, L"VertexSubEntity", L"KyDbVertexPart"},
+                  {KyDb::kNullSubentType, L"SubEntity", L"KyDbLine"}};
     for (const auto& kind : kKinds) {
         const KyDbFullSubentPath path(line, KyDbSubentId(kind.type, 0));
         const std::unique_ptr<KyDiDynamicObject> part(createDataItem(L"", KyRxValue(line), &path));
@@ -133,8 +136,7 @@ TEST_F(DbItems, ASubEntityIsNamedByItsKindAndLeadsToItsEntity) {
         EXPECT_EQ(text(value), kind.name);
         ASSERT_EQ(read(part.get(), L"ParentType", value), Kyro::eOk);
         EXPECT_EQ(itemIn(value), itemOf(line));
-        // Nothing to open for a face of a line: the class is the line's.
-        EXPECT_EQ(KyDiGetSubEntityClassName(part.get()), KyString(L"KyDbLine"));
+        EXPECT_EQ(KyDiGetSubEntityClassName(part.get()), KyString(kind.className));
     }
 }
 

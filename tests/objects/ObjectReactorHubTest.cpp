@@ -1,12 +1,14 @@
 // The object reactor hub: a client watching one object hears at the next
 // refresh pass that it changed, was erased, or that its document stopped or
 // started being the current one; and may take its watch back while it is
-// told.
+// told. A watched block reference hears of its attributes' edits.
 #include <gtest/gtest.h>
 
 #include <functional>
 
 #include "db/KyAxDocLock.h"
+#include "db/KyDbAttribute.h"
+#include "db/KyDbBlockReference.h"
 #include "db/KyDbLine.h"
 #include "db/KyDbObjectPointer.h"
 #include "kydi/KyDiObjectReactor.h"
@@ -115,6 +117,29 @@ TEST_F(Hub, AnEraseAndItsUndoBetweenTwoPassesTellNothing) {
     // The watch goes on: a later change is told.
     move(line, 3);
     EXPECT_EQ(pass(), (Lines{L"line modified"}));
+}
+
+TEST_F(Hub, AWatchedBlockReferenceHearsOfItsAttributesEdits) {
+    const KyDbObjectId reference = content().addEntity<KyDbBlockReference>();
+    KyDbObjectId attribute;
+    {
+        const KyAxDocLock lock(db());
+        KyDbObjectPointer<KyDbBlockReference> opened(reference, KyDb::kForWrite);
+        auto* number = new KyDbAttribute(L"NUMBER", L"D01");
+        ASSERT_EQ(opened->appendAttribute(attribute, number), Kyro::eOk);
+        number->close();
+    }
+    WatchSpy spy(L"reference", lines);
+    ASSERT_EQ(spy.watch(reference), Kyro::eOk);
+    pass();
+    {
+        const KyAxDocLock lock(db());
+        KyDbObjectPointer<KyDbAttribute> opened(attribute, KyDb::kForWrite);
+        opened->setTextString(L"D02");
+    }
+    EXPECT_EQ(pass(), (Lines{L"reference modified"}));
+    erase(attribute);
+    EXPECT_EQ(pass(), (Lines{L"reference modified"})) << "an attribute fewer";
 }
 
 TEST_F(Hub, AWatchOfAnErasedObjectIsFoundByItsIdAndTwoReactorsMakeTwoWatches) {

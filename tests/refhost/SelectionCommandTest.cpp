@@ -1,11 +1,15 @@
-// SELECT and ERASE by handle, the selection they leave, and the objects a
-// change of properties must leave alone.
+// SELECT and ERASE by handle, the selection they leave, sub-entities
+// selected beside objects, and the objects a change of properties must leave
+// alone.
 #include <algorithm>
 
 #include "RefHostTestSupport.h"
 #include "db/KyAxDocLock.h"
+#include "db/KyDbDatabase.h"
 #include "db/KyDbEntity.h"
+#include "db/KyDbFullSubentPath.h"
 #include "db/KyDbObjectPointer.h"
+#include "db/KyDbUndoController.h"
 
 namespace refhost {
 namespace {
@@ -19,6 +23,12 @@ protected:
           onLockedLayer(addEntity(L"Locked")) {}
 
     std::vector<KyDbObjectId> selection() const { return host->selectionService()->selection(); }
+    std::vector<KyDbFullSubentPath> paths() const {
+        return host->selectionService()->subentPaths();
+    }
+    static KyDbFullSubentPath edgeOf(KyDbObjectId id, int index) {
+        return KyDbFullSubentPath(id, KyDbSubentId(KyDb::kEdgeSubentType, index));
+    }
 
     KyDbObjectId first;
     KyDbObjectId second;
@@ -177,12 +187,60 @@ TEST_F(SelectionCommandTest, SelectionCountsKeepToTheClassAskedForAndToAChangeOf
 }
 
 TEST_F(SelectionCommandTest, EachDocumentKeepsItsOwnSelection) {
-    host->selectionService()->setSelection({first});
+    host->selectionService()->setSelection({first}, {edgeOf(second, 0)});
     KyRefDocument* drawing = host->documents().current();
     host->documents().newDocument();
     EXPECT_FALSE(host->selectionService()->hasSelection());
+    EXPECT_TRUE(paths().empty());
     host->documents().makeCurrent(drawing);
     EXPECT_EQ(selection(), (std::vector<KyDbObjectId>{first}));
+    EXPECT_EQ(paths(), (std::vector<KyDbFullSubentPath>{edgeOf(second, 0)}));
+}
+
+TEST_F(SelectionCommandTest, SubEntitiesAreSelectedBesideObjectsAndAChangeIsTold) {
+    spy.take();
+    host->selectionService()->setSelection({first}, {edgeOf(second, 0), edgeOf(first, 1)});
+    EXPECT_EQ(spy.take(), (Lines{"hostStateChanged"}));
+    host->selectionService()->setSelection({first}, {edgeOf(second, 0), edgeOf(first, 1)});
+    EXPECT_EQ(spy.take(), Lines{}) << "the same selection is no change";
+
+    KyArray<KyDbObjectId> ids;
+    KyDiSelectionService::SubentPathArray subents;
+    ASSERT_EQ(host->selectionService()->getSelection(ids, subents), Kyro::eOk);
+    ASSERT_EQ(ids.length(), 1) << "a sub-entity does not select its entity";
+    EXPECT_EQ(ids[0], first);
+    ASSERT_EQ(subents.length(), 2);
+    EXPECT_EQ(subents[0], edgeOf(second, 0));
+    EXPECT_EQ(subents[1], edgeOf(first, 1));
+
+    host->selectionService()->setSelection({}, {edgeOf(second, 0)});
+    EXPECT_TRUE(selection().empty());
+    EXPECT_TRUE(host->selectionService()->hasSelection()) << "a sub-entity alone is a selection";
+    EXPECT_EQ(spy.take(), (Lines{"hostStateChanged"}));
+    host->selectionService()->setSelection({second});
+    EXPECT_TRUE(paths().empty()) << "a selection of objects alone selects no sub-entity";
+    EXPECT_EQ(spy.take(), (Lines{"hostStateChanged"}));
+}
+
+TEST_F(SelectionCommandTest, SubEntitiesOfAnErasedEntityDropOutAndComeBackWithTheUndo) {
+    host->selectionService()->setSelection({second}, {edgeOf(first, 0), edgeOf(second, 0)});
+    spy.take();
+    KyAxDocLock lock(db());
+    {
+        KyDbObjectPointer<KyDbEntity> entity(first, KyDb::kForWrite);
+        ASSERT_EQ(entity->erase(), Kyro::eOk);
+    }
+    EXPECT_EQ(paths(), (std::vector<KyDbFullSubentPath>{edgeOf(second, 0)}));
+    KyArray<KyDbObjectId> ids;
+    KyDiSelectionService::SubentPathArray subents;
+    host->selectionService()->getSelection(ids, subents);
+    EXPECT_EQ(subents.length(), 1);
+    EXPECT_EQ(ids.length(), 1);
+
+    ASSERT_EQ(db()->undoController()->undo(), Kyro::eOk);
+    ASSERT_FALSE(isErased(first));
+    EXPECT_EQ(paths(), (std::vector<KyDbFullSubentPath>{edgeOf(first, 0), edgeOf(second, 0)}))
+        << "the selection holds what it was given, as it does for objects";
 }
 
 }  // namespace

@@ -1,9 +1,13 @@
 // Notifications at the real moments, in order, to object and database
 // reactors; reactors that add or remove reactors while they are called;
-// persistent reactors; goodbye when the database is deleted.
+// persistent reactors; a changed attribute told to its block reference;
+// goodbye when the database is deleted.
 #include <gtest/gtest.h>
 
 #include "DbTestSupport.h"
+#include "db/KyDbAttribute.h"
+#include "db/KyDbBlockReference.h"
+#include "db/KyDbSubEntityProvider.h"
 #include "db/KyDbUnknownObject.h"
 
 namespace dbtest {
@@ -261,6 +265,104 @@ TEST_F(NotificationTest, AnErasedPersistentReactorHearsNothing) {
     layer->setIsOff(true);
     layer.close();
     EXPECT_TRUE(log.lines().empty());
+}
+
+// A block reference with an attribute, both watched by one spy, and the
+// database watched too: the reference hears of its attribute's changes.
+class AttributeNotificationTest : public DbTest {
+protected:
+    AttributeNotificationTest() : objectSpy(log), databaseSpy(log) {
+        reference = addEntity(new KyDbBlockReference());
+        {
+            KyDbObjectPointer<KyDbBlockReference> ref(reference, KyDb::kForWrite);
+            auto* tag = new KyDbAttribute(L"NUMBER", L"D01");
+            ref->appendAttribute(attribute, tag);
+            tag->close();
+        }
+        watch(reference, &objectSpy);
+        watch(attribute, &objectSpy);
+        db->addReactor(&databaseSpy);
+    }
+    ~AttributeNotificationTest() override { db->removeReactor(&databaseSpy); }
+
+    // What the attribute's own close tells, after a first change.
+    static Lines attributeChanged() {
+        return {"openedForModify KyDbAttribute", "db.objectOpenedForModify KyDbAttribute",
+                "modified KyDbAttribute", "db.objectModified KyDbAttribute",
+                "objectClosed KyDbAttribute"};
+    }
+    static Lines referenceClosed() {
+        return {"modified KyDbBlockReference", "db.objectModified KyDbBlockReference",
+                "objectClosed KyDbBlockReference"};
+    }
+    static Lines joined(Lines first, const Lines& second) {
+        first.insert(first.end(), second.begin(), second.end());
+        return first;
+    }
+
+    KyDbObjectId reference;
+    KyDbObjectId attribute;
+    ObjectSpy objectSpy;
+    DatabaseSpy databaseSpy;
+};
+
+TEST_F(AttributeNotificationTest, AnAttributeEditedAsAPartTellsItsReferenceRightAfterItsClose) {
+    KyDbObjectPointer<KyDbBlockReference> ref(reference, KyDb::kForRead);
+    KyRxObject* part = nullptr;
+    ASSERT_EQ(KyDbSubEntityProvider::open(
+                  ref.object(), part, KyDbSubentId(KyDb::kAttributeSubentType, 0), KyDb::kForWrite),
+              Kyro::eOk);
+    kyrxCast<KyDbAttribute>(part)->setTextString(L"D02");
+    kyrxCast<KyDbAttribute>(part)->setHeight(250.0);
+    EXPECT_EQ(log.lines(),
+              (Lines{"openedForModify KyDbAttribute", "db.objectOpenedForModify KyDbAttribute"}))
+        << "the reference hears nothing while the attribute is open";
+    KyDbSubEntityProvider::close(ref.object(), part);
+    EXPECT_EQ(log.lines(), joined(attributeChanged(), referenceClosed()));
+    log.clear();
+    ref.close();
+    EXPECT_TRUE(log.lines().empty()) << "the reader of the reference changed nothing";
+}
+
+TEST_F(AttributeNotificationTest, AReferenceOpenForWriteCountsAsChangedAndTellsAtItsClose) {
+    KyDbObjectPointer<KyDbBlockReference> ref(reference, KyDb::kForWrite);
+    {
+        KyDbObjectPointer<KyDbAttribute> tag(attribute, KyDb::kForWrite);
+        tag->setTextString(L"D02");
+    }
+    EXPECT_EQ(log.lines(),
+              joined(attributeChanged(), {"openedForModify KyDbBlockReference",
+                                          "db.objectOpenedForModify KyDbBlockReference"}));
+    EXPECT_TRUE(ref->isModified());
+    log.clear();
+    ref.close();
+    EXPECT_EQ(log.lines(), referenceClosed());
+}
+
+TEST_F(AttributeNotificationTest, AnAttributeLeftUnchangedTellsItsReferenceNothing) {
+    { KyDbObjectPointer<KyDbAttribute> tag(attribute, KyDb::kForRead); }
+    {
+        KyDbObjectPointer<KyDbAttribute> tag(attribute, KyDb::kForWrite);
+        EXPECT_EQ(tag->setTextString(L"D01"), Kyro::eOk);
+    }
+    EXPECT_TRUE(log.lines().empty());
+}
+
+TEST_F(AttributeNotificationTest, AnErasedAttributeAndAnUndoneEditAreToldToTheReference) {
+    ASSERT_EQ(setErased(attribute, true), Kyro::eOk);
+    EXPECT_EQ(log.lines(),
+              joined({"openedForModify KyDbAttribute", "db.objectOpenedForModify KyDbAttribute",
+                      "erased(true) KyDbAttribute", "db.objectErased(true) KyDbAttribute",
+                      "modified KyDbAttribute", "db.objectModified KyDbAttribute",
+                      "objectClosed KyDbAttribute"},
+                     referenceClosed()));
+    log.clear();
+    ASSERT_EQ(undo()->undo(), Kyro::eOk);
+    EXPECT_EQ(log.lines(), joined({"erased(false) KyDbAttribute",
+                                   "db.objectErased(false) KyDbAttribute", "modified KyDbAttribute",
+                                   "db.objectModified KyDbAttribute", "objectClosed KyDbAttribute"},
+                                  referenceClosed()));
+    EXPECT_FALSE(attribute.isErased());
 }
 
 TEST(DatabaseGoodbyeTest, DeletingADatabaseSaysGoodbyeWhileEverythingIsThere) {
