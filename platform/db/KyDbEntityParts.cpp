@@ -6,6 +6,7 @@
 
 #include "db/KyDbArc.h"
 #include "db/KyDbCircle.h"
+#include "db/KyDbHatch.h"
 #include "db/KyDbLine.h"
 #include "db/KyDbPolyline.h"
 #include "rx/KyRxClass.h"
@@ -117,6 +118,17 @@ bool arcParts(const KyDbEntity& entity, const KyDbSubentId& id, Geometry& geomet
     return true;
 }
 
+// A hatch has one face per loop: the outer one first, then the holes, each
+// with the area its loop bounds.
+bool hatchParts(const KyDbEntity& entity, const KyDbSubentId& id, Geometry& geometry) {
+    const auto& hatch = static_cast<const KyDbHatch&>(entity);
+    if (id.type() != KyDb::kFaceSubentType || !hatch.loops().isValid(id.index())) {
+        return false;
+    }
+    geometry.area = boundedArea(hatch.loops()[id.index()]);
+    return true;
+}
+
 struct PartsRow {
     KyRxClass* (*desc)();
     FindPart find;
@@ -125,10 +137,9 @@ struct PartsRow {
 // One row per class of entity with faces, edges or vertices; the first row
 // whose class the entity is of answers.
 const PartsRow kPartsRows[] = {
-    {&KyDbLine::desc, &lineParts},
-    {&KyDbPolyline::desc, &polylineParts},
-    {&KyDbCircle::desc, &circleParts},
-    {&KyDbArc::desc, &arcParts},
+    {&KyDbLine::desc, &lineParts},     {&KyDbPolyline::desc, &polylineParts},
+    {&KyDbCircle::desc, &circleParts}, {&KyDbArc::desc, &arcParts},
+    {&KyDbHatch::desc, &hatchParts},
 };
 
 }  // namespace

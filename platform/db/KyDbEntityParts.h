@@ -6,10 +6,11 @@
 // - a polyline: one edge per segment, the closing segment of a closed one
 //   last; one vertex per point; a closed one of three points or more one
 //   face (0), the area it bounds;
-// - a circle, an arc: one edge (0).
+// - a circle, an arc: one edge (0);
+// - a hatch: one face per loop, the outer one (0) and then the holes, each
+//   with the area its loop bounds.
 // A class has one function in the table of KyDbEntityParts.cpp, found for an
-// entity of that class or of a class derived from it; a class of entity that
-// gets parts (the loops of a hatch, each a face) adds its row there.
+// entity of that class or of a class derived from it.
 #pragma once
 
 #include "db/KyDbEntityPart.h"

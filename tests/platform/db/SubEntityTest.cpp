@@ -19,6 +19,7 @@
 #include "db/KyDbEdgePart.h"
 #include "db/KyDbFacePart.h"
 #include "db/KyDbFullSubentPath.h"
+#include "db/KyDbHatch.h"
 #include "db/KyDbLine.h"
 #include "db/KyDbPolyline.h"
 #include "db/KyDbSubEntityProvider.h"
@@ -242,6 +243,32 @@ TEST_F(EntityPartTest, AClosedPolylineHasAFaceAndAClosingEdgeAnOpenOneNeither) {
     closePart();
     ASSERT_EQ(openPart(path, vertex(2)), Kyro::eOk);
     EXPECT_EQ(member(L"Position"), "2,5,0");
+}
+
+TEST_F(EntityPartTest, AHatchHasOneFacePerLoopAndNothingElse) {
+    auto* made = new KyDbHatch();
+    KyDbLoop outer;
+    for (const KyGePoint3d& point : {KyGePoint3d(0, 0, 0), KyGePoint3d(10, 0, 0),
+                                     KyGePoint3d(10, 10, 0), KyGePoint3d(0, 10, 0)}) {
+        outer.append(point);
+    }
+    KyDbLoop hole;
+    for (const KyGePoint3d& point :
+         {KyGePoint3d(2, 2, 0), KyGePoint3d(4, 2, 0), KyGePoint3d(4, 5, 0)}) {
+        hole.append(point);
+    }
+    made->appendLoop(outer);
+    made->appendLoop(hole);
+    const KyDbObjectId hatch = addEntity(made);
+    ASSERT_EQ(openPart(hatch, face(0)), Kyro::eOk);
+    EXPECT_EQ(member(L"Area"), "100");
+    closePart();
+    ASSERT_EQ(openPart(hatch, face(1)), Kyro::eOk);
+    EXPECT_EQ(member(L"Area"), "3") << "a hole is a face of its own";
+    closePart();
+    EXPECT_EQ(openPart(hatch, face(2)), Kyro::eNullSubentity);
+    closePart();
+    EXPECT_EQ(openPart(hatch, edge(0)), Kyro::eNullSubentity);
 }
 
 TEST_F(EntityPartTest, ACircleAndAnArcHaveOneEdgeFromStartToEnd) {
