@@ -1,5 +1,6 @@
 #include "manager/KnownCollectionRows.h"
 
+#include "collections/KyDiDataSelectedItemCollectionImp.h"
 #include "collections/KyDiImpColorCollection.h"
 #include "collections/KyDiImpDataLayerStateCollection.h"
 #include "collections/KyDiImpDataLayoutItemCollection.h"
@@ -150,8 +151,8 @@ const KnownCollectionRow kRows[] = {
     {L"KYRO_PLOTSTYLENAME", &newValueTracker<PlotStyleCurrencyTracker>, L"CPLOTSTYLE", nullptr,
      nullptr, nullptr, &newCollection<KyDiImpDataPlotStyleItemCollection>, nullptr,
      L"/PlotStyleNameDictionaryId/Items"},
-    {L"KYDI_DATAITEM_SELECTED_ITEMS", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-     nullptr},
+    {L"KYDI_DATAITEM_SELECTED_ITEMS", nullptr, nullptr, nullptr, nullptr, nullptr,
+     &newCollection<KyDiDataSelectedItemCollectionImp>, nullptr, nullptr},
     {L"TABLE_CELLSTYLES", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
      L"/TableCellStyleString/Items"},
     {L"RECENTBLOCK", nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,

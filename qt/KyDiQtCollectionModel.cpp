@@ -159,21 +159,7 @@ QVariant KyDiQtCollectionModel::data(const QModelIndex& index, int role) const {
     if (readable->getValue(object, value) != Kyro::eOk) {
         return QVariant();
     }
-    switch (role) {
-        case Qt::DisplayRole:
-            return KyDiQtValue::text(value);
-        case Qt::EditRole:
-            return KyDiQtValue::variant(value);
-        case Qt::DecorationRole: {
-            const QColor swatch = KyDiQtValue::swatch(value);
-            return swatch.isValid() ? QVariant(swatch) : QVariant();
-        }
-        default: {
-            const std::optional<bool> on = KyDiQtValue::flag(value);
-            return on.has_value() ? QVariant(static_cast<int>(*on ? Qt::Checked : Qt::Unchecked))
-                                  : QVariant();
-        }
-    }
+    return KyDiQtValue::roleData(value, role);
 }
 
 QVariant KyDiQtCollectionModel::headerData(int section, Qt::Orientation orientation,
@@ -220,25 +206,13 @@ Qt::ItemFlags KyDiQtCollectionModel::flags(const QModelIndex& index) const {
 
 bool KyDiQtCollectionModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     KyDiDynamicObject* object = index.isValid() ? item(index.row()) : nullptr;
-    if (object == nullptr || (role != Qt::EditRole && role != Qt::CheckStateRole)) {
+    if (object == nullptr) {
         return false;
     }
     const auto* member =
         kyrxCast<KyRxProperty>(columnsOf(object)[static_cast<size_t>(index.column())]);
-    if (member == nullptr || member->isReadOnly()) {
-        return false;
-    }
-    KyRxValue written;
-    if (role == Qt::CheckStateRole) {
-        if (member->type() != KyRxValueType::Desc<bool>::value()) {
-            return false;
-        }
-        written = KyRxValue(value.toInt() == Qt::Checked);
-    } else if (!KyDiQtValue::toValue(value, *member, written)) {
-        return false;
-    }
     // The row changes when the collection reports the change, not now.
-    return member->setValue(object, written) == Kyro::eOk;
+    return member != nullptr && KyDiQtValue::write(value, role, *member, object);
 }
 
 QHash<int, QByteArray> KyDiQtCollectionModel::roleNames() const {

@@ -312,23 +312,7 @@ QVariant KyDiQtPropertyModel::data(const QModelIndex& index, int role) const {
     if (property->getValue(m_object, value) != Kyro::eOk) {
         return role == VariesRole ? QVariant(false) : QVariant();
     }
-    switch (role) {
-        case VariesRole:
-            return value.isVaries();
-        case Qt::DisplayRole:
-            return KyDiQtValue::text(value);
-        case Qt::EditRole:
-            return KyDiQtValue::variant(value);
-        case Qt::DecorationRole: {
-            const QColor swatch = KyDiQtValue::swatch(value);
-            return swatch.isValid() ? QVariant(swatch) : QVariant();
-        }
-        default: {
-            const std::optional<bool> on = KyDiQtValue::flag(value);
-            return on.has_value() ? QVariant(static_cast<int>(*on ? Qt::Checked : Qt::Unchecked))
-                                  : QVariant();
-        }
-    }
+    return role == VariesRole ? QVariant(value.isVaries()) : KyDiQtValue::roleData(value, role);
 }
 
 QVariant KyDiQtPropertyModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -362,19 +346,7 @@ Qt::ItemFlags KyDiQtPropertyModel::flags(const QModelIndex& index) const {
 
 bool KyDiQtPropertyModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     const KyRxProperty* property = propertyAt(index);
-    if (property == nullptr || index.column() != ValueColumn || property->isReadOnly() ||
-        (role != Qt::EditRole && role != Qt::CheckStateRole)) {
-        return false;
-    }
-    KyRxValue written;
-    if (role == Qt::CheckStateRole) {
-        if (property->type() != KyRxValueType::Desc<bool>::value()) {
-            return false;
-        }
-        written = KyRxValue(value.toInt() == Qt::Checked);
-    } else if (!KyDiQtValue::toValue(value, *property, written)) {
-        return false;
-    }
     // The row shows the new value when the object reports the change.
-    return property->setValue(m_object, written) == Kyro::eOk;
+    return property != nullptr && index.column() == ValueColumn &&
+           KyDiQtValue::write(value, role, *property, m_object);
 }

@@ -299,3 +299,41 @@ bool KyDiQtValue::toValue(const QVariant& variant, const KyRxPropertyBase& prope
     }
     return false;
 }
+
+QVariant KyDiQtValue::roleData(const KyRxValue& value, int role) {
+    switch (role) {
+        case Qt::DisplayRole:
+            return text(value);
+        case Qt::EditRole:
+            return variant(value);
+        case Qt::DecorationRole: {
+            const QColor color = swatch(value);
+            return color.isValid() ? QVariant(color) : QVariant();
+        }
+        case Qt::CheckStateRole: {
+            const std::optional<bool> on = flag(value);
+            return on.has_value() ? QVariant(static_cast<int>(*on ? Qt::Checked : Qt::Unchecked))
+                                  : QVariant();
+        }
+        default:
+            return QVariant();
+    }
+}
+
+bool KyDiQtValue::write(const QVariant& variant, int role, const KyRxProperty& property,
+                        KyDiDynamicObject* object) {
+    if (property.isReadOnly()) {
+        return false;
+    }
+    KyRxValue written;
+    if (role == Qt::CheckStateRole) {
+        if (property.type() != KyRxValueType::Desc<bool>::value()) {
+            return false;
+        }
+        written = KyRxValue(variant.toInt() == Qt::Checked);
+    } else if (role != Qt::EditRole || !toValue(variant, property, written)) {
+        return false;
+    }
+    // What shows the value changes when the object reports the change.
+    return property.setValue(object, written) == Kyro::eOk;
+}

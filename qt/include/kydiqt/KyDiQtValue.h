@@ -30,6 +30,7 @@
 #include "rx/KyRxValue.h"
 
 class KyDiDynamicObject;
+class KyRxProperty;
 class KyRxPropertyBase;
 
 Q_DECLARE_METATYPE(KyCmColor)
@@ -46,6 +47,15 @@ public:
     static std::optional<bool> flag(const KyRxValue& value);
     // `variant` as a value for `property`; false when it does not fit.
     static bool toValue(const QVariant& variant, const KyRxPropertyBase& property, KyRxValue& out);
+
+    // What a value cell answers for `role` (Display, Edit, Decoration,
+    // CheckState); an invalid variant for any other role.
+    static QVariant roleData(const KyRxValue& value, int role);
+    // Writes what an editor gave for `role` (Edit, or CheckState for a
+    // boolean property) to `property` of `object`; false when it does not fit
+    // or the write failed.
+    static bool write(const QVariant& variant, int role, const KyRxProperty& property,
+                      KyDiDynamicObject* object);
 
     // The value a data item stands for (a colour item's colour), or the
     // value itself when it holds no item with a value.
