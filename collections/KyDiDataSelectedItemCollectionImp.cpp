@@ -1,5 +1,6 @@
 #include "collections/KyDiDataSelectedItemCollectionImp.h"
 
+#include "contexts/KyDiSelectionContext.h"
 #include "db/KyDbDimension.h"
 #include "db/KyDbGuid.h"
 #include "db/KyDbObjectPointer.h"
@@ -118,6 +119,9 @@ void KyDiDataSelectedItemCollectionImp::addPendingObject(const KyDbObjectId& id)
     // their entity is no modified item.
     if (m_subEntitySelection != kSubEntities && id != ownerId()) {
         mutablePendingObjects().insert(id);
+    }
+    if (KyDiSelectionContext* context = KyDiSelectionContext::instance()) {
+        context->objectChangedInSelection(id);
     }
 }
 

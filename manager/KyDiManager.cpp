@@ -3,10 +3,11 @@
 #include <utility>
 
 #include "contexts/ContextFactories.h"
-#include "kydi/KyDiContextBase.h"
 #include "contexts/KyDiContextManagerImp.h"
 #include "contexts/KyDiDrawingContext.h"
+#include "contexts/KyDiSelectionContext.h"
 #include "contexts/KyDiViewportContext.h"
+#include "kydi/KyDiContextBase.h"
 #include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiDataItemReactor.h"
 #include "kydi/KyDiFunctions.h"
@@ -102,6 +103,7 @@ void KyDiManager::initialize(KyDiHost* host) {
     // The layer's own context factories; "SELECTION" and "RENDER" take their
     // places around "VIEWPORT" as they come.
     ContextFactories::registerFactory(L"DRAWING", &KyDiDrawingContext::create);
+    ContextFactories::registerFactory(L"SELECTION", &KyDiSelectionContext::create);
     ContextFactories::registerFactory(L"VIEWPORT", &KyDiViewportContext::create);
     // The symbol table module's rows, then the static ones, with their paths.
     KnownCollectionRegistry::install();

@@ -1,0 +1,388 @@
+#include "contexts/SelectionCommonValues.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "collections/CSelectedItemHelper.h"
+#include "db/KyAxDocLock.h"
+#include "db/KyDbEntity.h"
+#include "kydi/KyDiDbItem.h"
+#include "kydi/KyDiExpression.h"
+#include "kydi/KyDiFunctions.h"
+#include "manager/NameConverters.h"
+#include "manager/host/IKyDbDynBlockReferenceHost.h"
+#include "manager/host/KyDiHostAccess.h"
+#include "reflection/HostValueAccess.h"
+#include "reflection/KyDiMemberQueryContext.h"
+#include "reflection/KyDiValueIterator.h"
+#include "reflection/PropertyWrapping.h"
+#include "rx/KyRxMemberQueryEngine.h"
+#include "rx/KyRxMethod.h"
+#include "rx/KyRxProperty.h"
+
+namespace {
+
+using Kind = SelectionCommonValues::Kind;
+using Filter = SelectionCommonValues::Filter;
+
+KyRxMemberQueryEngine& engine() {
+    return *KyRxMemberQueryEngine::theEngine();
+}
+
+// The host member a property stands for: the source of a wrapper, or itself.
+const KyRxMember* hostMember(const KyRxMember* member) {
+    const KyRxMember* source = PropertyWrapping::sourceMember(member);
+    return source != nullptr ? source : member;
+}
+
+bool passes(const Filter& filter, const KyRxObject* object) {
+    return filter.cls == nullptr ||
+           (object->isA() == filter.cls &&
+            SelectionCommonValues::className(object).compare(filter.name) == 0);
+}
+
+// An item of the selection, opened as the kind of selection says; the
+// object is the part when one is open.
+struct Opened {
+    Opened(KyDiDynamicObject* item, KyDb::OpenMode mode, Kind kind)
+        : helper(kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(item)), mode, kind) {}
+    CSelectedItemHelper helper;
+};
+
+// The member of a property on each object, found once per class, or per
+// "ClassName" where objects of one class differ by it.
+class Resolver {
+public:
+    explicit Resolver(const KyRxPropertyBase* property) : m_name(property->name()) {}
+
+    // Null when the object has no member of the property's name.
+    const KyRxMember* resolve(const KyRxObject* object, const KyString& name,
+                              const Filter& filter) {
+        const bool byName = !name.isEmpty() || !filter.name.isEmpty();
+        if (byName) {
+            if (const auto found = m_byName.find(name); found != m_byName.end()) {
+                return found->second;
+            }
+        } else if (const auto found = m_byClass.find(object->isA()); found != m_byClass.end()) {
+            return found->second;
+        }
+        const KyRxMember* member =
+            engine().find(object, m_name.kwszPtr(), engine().promotingContext());
+        if (member != nullptr) {
+            if (byName) {
+                m_byName[name] = member;
+            } else {
+                m_byClass[object->isA()] = member;
+            }
+        }
+        return member;
+    }
+
+private:
+    KyString m_name;
+    std::map<const KyRxClass*, const KyRxMember*> m_byClass;
+    std::map<KyString, const KyRxMember*, KyStringLess> m_byName;
+};
+
+// A value the same on two objects: of one type, and equal by its type.
+bool same(const KyRxValue& a, const KyRxValue& b) {
+    return a.type() == b.type() && a == b;
+}
+
+// The classes an object's members come from: its own and those of its
+// facets.
+std::vector<const KyRxClass*> memberClasses(const KyRxObject* object, const KyRxClass* cls) {
+    KyDiMemberQueryContext probe;
+    const std::unique_ptr<KyRxMemberIterator> unused(engine().newMemberIterator(object, &probe));
+    std::vector<const KyRxClass*> classes = probe.classes();
+    if (classes.empty() && cls != nullptr) {
+        classes.push_back(cls);
+    }
+    return classes;
+}
+
+}  // namespace
+
+KyString SelectionCommonValues::memberText(const KyRxObject* object, const wchar_t* name) {
+    const auto* property =
+        kyrxCast<KyRxProperty>(engine().find(object, name, engine().promotingContext()));
+    KyRxValue value;
+    if (property == nullptr || property->getValue(object, value) != Kyro::eOk) {
+        return KyString();
+    }
+    if (const KyString* text = valueCast<KyString>(&value)) {
+        return *text;
+    }
+    if (const wchar_t* const* text = valueCast<const wchar_t*>(&value)) {
+        return KyString(*text);
+    }
+    return KyString();
+}
+
+const KyRxClass* SelectionCommonValues::lowestCommonClass(const KyRxClass* a, const KyRxClass* b) {
+    if (a == nullptr || b == nullptr) {
+        return nullptr;
+    }
+    if (a == b) {
+        return a;
+    }
+    std::set<const KyRxClass*> chainOfB;
+    for (const KyRxClass* up = b; up != nullptr; up = up->myParent()) {
+        chainOfB.insert(up);
+    }
+    for (const KyRxClass* up = a; up != nullptr; up = up->myParent()) {
+        if (chainOfB.contains(up)) {
+            return up;
+        }
+    }
+    return nullptr;
+}
+
+Kyro::ErrorStatus SelectionCommonValues::buildCommonMembers(const KyDiItemArray& items, Kind kind,
+                                                            const Filter& filter, IdSet& filtered,
+                                                            KyDiMemberArray& members) {
+    filtered.clear();
+    const KyRxClass* commonClass = nullptr;
+    std::set<const KyRxClass*> seen;
+    std::vector<const KyRxClass*> running;
+    bool membersLeft = true;
+    IKyDbDynBlockReferenceHost* dynamicBlocks = IKyDbDynBlockReferenceHost::instance();
+    for (KyDiDynamicObject* item : items) {
+        const Opened opened(item, KyDb::kForRead, kind);
+        if (opened.helper.getLastError() != Kyro::eOk) {
+            return opened.helper.getLastError();
+        }
+        KyRxObject* object = opened.helper.object();
+        if (object == nullptr) {
+            return Kyro::eOk;
+        }
+        const KyRxClass* cls = object->isA();
+        if (cls == nullptr) {
+            return Kyro::eInvalidInput;
+        }
+        if (filter.cls != nullptr) {
+            if (!passes(filter, object)) {
+                continue;
+            }
+            if (const auto* record = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(item))) {
+                filtered.insert(record->objectId());
+            }
+        }
+        // Objects of one class show the same members, but for dynamic block
+        // references, whose members are their own.
+        auto* entity = kyrxCast<KyDbEntity>(object);
+        if (seen.contains(cls) && !(dynamicBlocks != nullptr && entity != nullptr &&
+                                    dynamicBlocks->isDynamicBlockReference(entity))) {
+            continue;
+        }
+        commonClass = commonClass == nullptr ? cls : lowestCommonClass(commonClass, cls);
+        if (membersLeft) {
+            const std::vector<const KyRxClass*> classes = memberClasses(object, cls);
+            if (classes.empty()) {
+                membersLeft = false;
+            } else if (running.empty()) {
+                running = classes;
+            } else {
+                std::vector<const KyRxClass*> meet;
+                for (const KyRxClass* a : running) {
+                    for (const KyRxClass* b : classes) {
+                        const KyRxClass* c = lowestCommonClass(a, b);
+                        if (c != nullptr && std::find(meet.begin(), meet.end(), c) == meet.end()) {
+                            meet.push_back(c);
+                        }
+                    }
+                }
+                running = std::move(meet);
+            }
+            if (running.empty()) {
+                membersLeft = false;
+            }
+        }
+        seen.insert(cls);
+    }
+    if (!membersLeft) {
+        running.clear();
+    }
+    KyRxClassArray classes(0, 8);
+    for (const KyRxClass* cls : running) {
+        classes.append(cls);
+    }
+    if (commonClass != nullptr) {
+        if (classes.isEmpty()) {
+            classes.append(commonClass);
+        } else {
+            classes[0] = commonClass;
+        }
+    }
+    if (classes.isEmpty()) {
+        return Kyro::eOk;
+    }
+    const std::unique_ptr<KyRxMemberIterator> found(
+        engine().promotingContext()->newMemberIterator(classes));
+    if (found == nullptr) {
+        return Kyro::eNullObjectPointer;
+    }
+    for (; !found->done(); found->next()) {
+        const KyRxMember* member = found->current();
+        const bool shown =
+            kyrxCast<KyRxPropertyBase>(member) != nullptr ||
+            (kind == Kind::kCellsOrComplex && kyrxCast<KyRxMethod>(member) != nullptr);
+        if (!shown) {
+            continue;
+        }
+        if (const KyRxMember* wrapped = PropertyWrapping::wrapMember(member)) {
+            members.append(const_cast<KyRxMember*>(wrapped));
+        }
+    }
+    return Kyro::eOk;
+}
+
+Kyro::ErrorStatus SelectionCommonValues::getCommonValue(const KyDiItemArray& items, Kind kind,
+                                                        const KyRxPropertyBase* property,
+                                                        KyRxValue& value, int index,
+                                                        const wchar_t* key, const Filter& filter,
+                                                        const IdSet& filtered) {
+    value = KyRxValue();
+    if (items.length() > 1 && kyrxCast<KyRxCollectionProperty>(hostMember(property)) != nullptr &&
+        !(filter.cls != nullptr && filtered.size() == 1)) {
+        return Kyro::eNotApplicable;
+    }
+    Resolver resolver(property);
+    KyRxValue result;
+    Kyro::ErrorStatus status = Kyro::eOk;
+    int counted = 0;
+    for (KyDiDynamicObject* item : items) {
+        const Opened opened(item, KyDb::kForRead, kind);
+        KyRxObject* object = opened.helper.object();
+        if (opened.helper.getLastError() != Kyro::eOk || object == nullptr) {
+            return opened.helper.getLastError();
+        }
+        const KyString name = className(object);
+        if (name.isEmpty() && filter.name.isEmpty()) {
+            if (filter.cls != nullptr && object->isA() != filter.cls) {
+                continue;
+            }
+        } else if (filter.cls != nullptr && filter.name.compare(name) != 0) {
+            continue;
+        }
+        const KyRxMember* member = resolver.resolve(object, name, filter);
+        if (member == nullptr) {
+            return Kyro::eInvalidInput;
+        }
+        KyRxValue current;
+        status = HostValueAccess::readHostValue(object, hostMember(member), current, index, key);
+        if (status == Kyro::eAmbiguousOutput) {
+            // The object's own value varies (its parts differ).
+            result = KyRxValue::varies();
+            status = Kyro::eOk;
+            break;
+        }
+        if (status != Kyro::eOk) {
+            return status;
+        }
+        NameConverters::toLocal(object->isA(), property->name(), current);
+        if (counted++ == 0) {
+            result = current;
+            continue;
+        }
+        if (!same(result, current)) {
+            result = valueCast<KyDiExpression>(&current) == nullptr
+                         ? KyRxValue::varies()
+                         : KyRxValue(KyDiExpression{KyRxValue::varies(), KyString()});
+            break;
+        }
+    }
+    value = result;
+    if (!value.isEmpty() && !value.isVaries()) {
+        KyDiConvertToDataItem(value);
+    }
+    return status;
+}
+
+Kyro::ErrorStatus SelectionCommonValues::setCommonValue(const KyDiItemArray& items, Kind kind,
+                                                        const KyRxPropertyBase* property,
+                                                        const KyRxValue& value, int index,
+                                                        const wchar_t* key, const Filter& filter,
+                                                        bool& classChanged) {
+    classChanged = false;
+    if (value.isEmpty()) {
+        return Kyro::eOk;
+    }
+    const KyDb::OpenMode mode = value.isVaries() ? KyDb::kForRead : KyDb::kForWrite;
+    const KyAxDocLock lock(KyDiHostAccess::workingDatabase());
+    KyRxValue hostValue = value;
+    KyDiConvertFromDataItem(property, hostValue);
+    Resolver resolver(property);
+    Kyro::ErrorStatus status = Kyro::eOk;
+    for (KyDiDynamicObject* item : items) {
+        const Opened opened(item, mode, kind);
+        KyRxObject* object = opened.helper.object();
+        if (opened.helper.getLastError() != Kyro::eOk || object == nullptr) {
+            return opened.helper.getLastError();
+        }
+        if (!passes(filter, object)) {
+            continue;
+        }
+        const KyString name = className(object);
+        const KyRxMember* member = resolver.resolve(object, name, filter);
+        status = HostValueAccess::writeHostValue(
+            object, member != nullptr ? hostMember(member) : nullptr, hostValue, index, key);
+        if (status != Kyro::eOk) {
+            return status;
+        }
+        if (className(object).compare(name) != 0) {
+            classChanged = true;
+        }
+    }
+    return status;
+}
+
+KyRxValueIterator* SelectionCommonValues::newCommonValueIterator(const KyDiItemArray& items,
+                                                                 Kind kind,
+                                                                 const KyRxPropertyBase* property,
+                                                                 const Filter& filter,
+                                                                 const IdSet& filtered) {
+    auto values = std::make_unique<KyDiValueIterator>();
+    Resolver resolver(property);
+    bool first = true;
+    for (KyDiDynamicObject* item : items) {
+        const Opened opened(item, KyDb::kForRead, kind);
+        KyRxObject* object = opened.helper.object();
+        if (opened.helper.getLastError() != Kyro::eOk || object == nullptr) {
+            return nullptr;
+        }
+        if (!passes(filter, object)) {
+            continue;
+        }
+        const auto* collection = kyrxCast<KyRxCollectionProperty>([&]() -> const KyRxMember* {
+            const KyRxMember* member = resolver.resolve(object, className(object), filter);
+            return member != nullptr ? hostMember(member) : nullptr;
+        }());
+        if (collection == nullptr) {
+            return nullptr;
+        }
+        const std::unique_ptr<KyRxValueIterator> own(collection->newValueIterator(object));
+        if (own == nullptr) {
+            return nullptr;
+        }
+        if (!first) {
+            continue;
+        }
+        first = false;
+        // Values answer for one object only.
+        if ((items.length() >= 2 && filter.cls == nullptr) ||
+            (filter.cls != nullptr && filtered.size() != 1)) {
+            return nullptr;
+        }
+        for (; !own->done(); own->next()) {
+            KyRxValue current;
+            if (own->current(current) == Kyro::eOk) {
+                KyDiConvertToDataItem(current);
+                values->append(current);
+            }
+        }
+    }
+    return values.release();
+}

@@ -1,0 +1,194 @@
+// The "SELECTION" context over the sample drawing: the members the selected
+// objects have in common and the values they agree on, "varies" where they
+// differ; a write to all of them as one undoable change that leaves objects
+// on locked layers alone; the groups by kind and the filter; the limit of
+// PROPOBJLIMIT.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <set>
+
+#include "KyRefDocument.h"
+#include "KyRefSelectionService.h"
+#include "contexts/ManagerSpy.h"
+#include "db/KyCmColor.h"
+#include "db/KyDbCircle.h"
+#include "db/KyDbDatabase.h"
+#include "db/KyDbEntity.h"
+#include "db/KyDbHandle.h"
+#include "db/KyDbLine.h"
+#include "db/KyDbObjectPointer.h"
+#include "db/KyDbOpenObject.h"
+#include "kydi/IKyDiSelectionItemProvider.h"
+#include "kydi/KyDiContext.h"
+#include "kydi/KyDiContextManager.h"
+#include "kydi/KyDiFunctions.h"
+#include "manager/RefHostFixture.h"
+#include "rx/KyRxMemberQueryEngine.h"
+#include "rx/KyRxProperty.h"
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+class SelectionContext : public kytest::RefHostFixture {
+protected:
+    void SetUp() override {
+        RefHostFixture::SetUp();
+        KyString error;
+        ASSERT_NE(host.documents().openDocument(KyString::fromUtf8(KYDI_TEST_SAMPLE), error),
+                  nullptr);
+        context = KyDiManager::getContextManager()->getContext(L"SELECTION", true);
+        ASSERT_NE(context, nullptr);
+        kinds = dynamic_cast<IKyDiSelectionItemProvider*>(context);
+        ASSERT_NE(kinds, nullptr);
+        spy = std::make_unique<kytest::ManagerSpy>(KyDiManager::getContextManager());
+    }
+    void TearDown() override {
+        spy.reset();
+        RefHostFixture::TearDown();
+    }
+    KyDbObjectId object(const wchar_t* handle) {
+        KyDbObjectId id;
+        KyDbHandle parsed;
+        KyDbHandle::fromText(handle, parsed);
+        host.documents().currentDatabase()->getKyDbObjectId(id, parsed);
+        return id;
+    }
+    // Selects, and lets two passes bring the context in step.
+    void select(std::initializer_list<const wchar_t*> handles) {
+        std::vector<KyDbObjectId> ids;
+        for (const wchar_t* handle : handles) {
+            ids.push_back(object(handle));
+        }
+        host.selectionService()->setSelection(ids);
+        KyDiManager::refresh();
+        KyDiManager::refresh();
+        spy->take();
+    }
+    std::set<std::string> members() {
+        std::set<std::string> names;
+        const std::unique_ptr<KyRxMemberIterator> it(context->newMemberIterator());
+        for (; it != nullptr && !it->done(); it->next()) {
+            names.insert(KyString(it->current()->name()).utf8());
+        }
+        return names;
+    }
+    const KyRxProperty* property(const wchar_t* name) {
+        return kyrxCast<KyRxProperty>(KyDiFindMember(context, name));
+    }
+    KyRxValue read(const wchar_t* name) {
+        KyRxValue value;
+        const KyRxProperty* found = property(name);
+        EXPECT_NE(found, nullptr) << KyString(name).utf8();
+        if (found != nullptr) {
+            EXPECT_EQ(found->getValue(context, value), Kyro::eOk);
+        }
+        return value;
+    }
+    static KyCmColor colorIndex(unsigned short index) {
+        KyCmColor color;
+        color.setColorIndex(index);
+        return color;
+    }
+    KyCmColor colorOf(const wchar_t* handle) {
+        KyDbObjectPointer<KyDbEntity> entity(object(handle), KyDb::kForRead);
+        return entity->color();
+    }
+
+    KyDiContext* context = nullptr;
+    IKyDiSelectionItemProvider* kinds = nullptr;
+    std::unique_ptr<kytest::ManagerSpy> spy;
+};
+
+TEST_F(SelectionContext, TwoLinesShowTheirCommonValuesAndOneWriteReachesBoth) {
+    EXPECT_FALSE(context->isActive()) << "nothing selected";
+    EXPECT_EQ(context->priority(), 20);
+    select({L"4B", L"4C"});
+    EXPECT_TRUE(context->isActive());
+    const std::set<std::string> listed = members();
+    EXPECT_TRUE(listed.contains("StartPoint"));
+    EXPECT_TRUE(read(L"StartPoint").isVaries());
+    EXPECT_FALSE(read(L"LayerId").isVaries());
+    const KyRxValue layer = read(L"LayerId");
+    ASSERT_NE(valueCast<KyDiDynamicObject*>(&layer), nullptr);
+    EXPECT_EQ(KyDiGetItemName(*valueCast<KyDiDynamicObject*>(&layer)).utf8(), "Walls");
+
+    // One write, one step of undo, one change told.
+    ASSERT_EQ(property(L"Color")->setValue(context, KyRxValue(colorIndex(3))), Kyro::eOk);
+    EXPECT_EQ(colorOf(L"4B").colorIndex(), 3);
+    EXPECT_EQ(colorOf(L"4C").colorIndex(), 3);
+    KyDiManager::refresh();
+    EXPECT_EQ(spy->take(), Lines{"contextChanged SELECTION []"});
+    type(L"U\n");
+    EXPECT_EQ(commandLine().back(), L"Undone: OPM_CHGPROP");
+    EXPECT_TRUE(colorOf(L"4B").isByLayer());
+    EXPECT_TRUE(colorOf(L"4C").isByLayer());
+
+    // "Varies" written changes nothing.
+    property(L"Color")->setValue(context, KyRxValue::varies());
+    EXPECT_TRUE(colorOf(L"4B").isByLayer());
+    EXPECT_EQ(kydbOpenObjectCount(), 0);
+}
+
+TEST_F(SelectionContext, ALineAndACircleShowOnlyWhatTheyShareAndAFilterNarrowsToOne) {
+    select({L"4B", L"4E"});
+    std::set<std::string> listed = members();
+    EXPECT_TRUE(listed.contains("Color"));
+    EXPECT_FALSE(listed.contains("StartPoint"));
+    EXPECT_FALSE(listed.contains("Radius"));
+    ASSERT_EQ(kinds->getItemCount(), 2);
+    EXPECT_EQ(kinds->getItem(0).objectClass, KyDbLine::desc());
+    EXPECT_EQ(kinds->getItem(1).objectClass, KyDbCircle::desc());
+    EXPECT_EQ(kinds->getItem(1).localizedName.utf8(), "Circle");
+    EXPECT_EQ(kinds->getItem(2).objectClass, nullptr);
+
+    KyArray<KyString> lineAndCircle;
+    lineAndCircle.append(KyString(L"KyDbLine"));
+    lineAndCircle.append(KyString(L"KyDbCircle"));
+    KyArray<KyString> lineOnly;
+    lineOnly.append(KyString(L"KyDbLine"));
+    EXPECT_TRUE(kinds->containsAnyClass(lineOnly));
+    EXPECT_FALSE(kinds->containsOnlyClasses(lineOnly));
+    EXPECT_TRUE(kinds->containsOnlyClasses(lineAndCircle));
+
+    // Narrowed to the circle: its own members, its values, writes to it alone.
+    ASSERT_TRUE(kinds->setFilterClass(KyDbCircle::desc()));
+    EXPECT_FALSE(kinds->setFilterClass(KyDbLine::desc()->myParent()));
+    ASSERT_TRUE(kinds->setFilterClass(KyDbCircle::desc()));
+    listed = members();
+    EXPECT_TRUE(listed.contains("Radius"));
+    ASSERT_EQ(property(L"Color")->setValue(context, KyRxValue(colorIndex(5))), Kyro::eOk);
+    EXPECT_EQ(colorOf(L"4E").colorIndex(), 5);
+    EXPECT_TRUE(colorOf(L"4B").isByLayer());
+    // The change of the written object keeps the filter.
+    KyDiManager::refresh();
+    EXPECT_EQ(kinds->getFilterClass(), KyDbCircle::desc());
+    EXPECT_TRUE(kinds->setFilterClass(nullptr));
+    EXPECT_EQ(kinds->getFilterClass(), nullptr);
+}
+
+TEST_F(SelectionContext, ObjectsOnLockedLayersAreLeftAloneAndOnlyThoseAnswer87) {
+    // The leader 5C and the dimension 5B stand on the locked layer
+    // "Dimensions".
+    select({L"4B", L"5C"});
+    ASSERT_EQ(property(L"Color")->setValue(context, KyRxValue(colorIndex(2))), Kyro::eOk);
+    EXPECT_EQ(colorOf(L"4B").colorIndex(), 2);
+    EXPECT_FALSE(colorOf(L"5C").colorIndex() == 2);
+    select({L"5B", L"5C"});
+    EXPECT_EQ(property(L"Color")->setValue(context, KyRxValue(colorIndex(2))),
+              Kyro::eAllObjectsExcluded);
+    EXPECT_FALSE(colorOf(L"5B").colorIndex() == 2);
+}
+
+TEST_F(SelectionContext, BeyondPropObjLimitTheContextIsInactive) {
+    select({L"4B", L"4C", L"4E"});
+    type(L"PROPOBJLIMIT\n2\n");
+    EXPECT_FALSE(context->isActive());
+    type(L"PROPOBJLIMIT\n3\n");
+    EXPECT_TRUE(context->isActive());
+    type(L"PROPOBJLIMIT\n0\n");
+    EXPECT_TRUE(context->isActive()) << "0 is no limit";
+}
+
+}  // namespace
