@@ -33,6 +33,7 @@
 #include "db/KyDbSubEntityProvider.h"
 #include "db/KyDbSymbolTable.h"
 #include "db/KyDbTable.h"
+#include "kydi/IKyDiSelectionItemProvider.h"
 #include "kydi/KyDiColorCollection.h"
 #include "kydi/KyDiContext.h"
 #include "kydi/KyDiContextManager.h"
@@ -48,6 +49,7 @@
 #include "kydi/KyDiObservableEnumCollection.h"
 #include "kydi/KyDiSysVar.h"
 #include "kydi/KyDiValueTypes.h"
+#include "rx/KyRxClass.h"
 #include "rx/KyRxMemberQueryEngine.h"
 #include "rx/KyRxProperty.h"
 #include "rx/KyRxStandardAttributes.h"
@@ -93,6 +95,8 @@ std::string statusText(Kyro::ErrorStatus status) {
             return "the object is open for write elsewhere";
         case Kyro::eInvalidIndex:
             return "no such row or column";
+        case Kyro::eAllObjectsExcluded:
+            return "every object is to be left alone";
         default:
             return "status " + std::to_string(static_cast<int>(status));
     }
@@ -137,7 +141,10 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"clock", 1, 1, "clock +MS", &Script::clock},
         {"echo", 0, -1, "echo TEXT", &Script::echo},
         {"select", 0, -1, "select HANDLE|HANDLE/KIND:N...", &Script::select},
-        {"selection", 0, 0, "selection", &Script::printSelection},
+        {"selection", 0, -1,
+         "selection [groups | filter CLASS [CLASSNAME] | filter off | any CLASS... | only "
+         "CLASS...]",
+         &Script::selectionStatement},
         {"viewport", 0, 1, "viewport [HANDLE]", &Script::viewport},
         {"log", 0, 0, "log", &Script::log},
         {"watch", 1, 2,
@@ -395,6 +402,59 @@ bool KyAppScript::hasPart(KyDbObjectId id, const KyDbSubentId& subentId, std::st
                                            : "can't open " + KyAppSubentText::describe(subentId) +
                                                  " of " + name + ": " + statusText(status);
     return false;
+}
+
+bool KyAppScript::selectionStatement(const KyAppStatement& statement) {
+    if (statement.words.empty()) {
+        return printSelection(statement);
+    }
+    auto* kinds = dynamic_cast<IKyDiSelectionItemProvider*>(
+        KyDiManager::getContextManager()->getContext(L"SELECTION", true));
+    if (kinds == nullptr) {
+        return fail("there is no SELECTION context");
+    }
+    const std::string& what = statement.words[0].text;
+    if (what == "groups" && statement.words.size() == 1) {
+        for (int i = 0; i < kinds->getItemCount(); ++i) {
+            const KyDiSelectionItem group = kinds->getItem(i);
+            m_out << KyString(group.objectClass->name()).utf8() << ' '
+                  << KyAppValue::text(group.className.utf8()).format() << ' '
+                  << KyAppValue::text(group.localizedName.utf8()).format() << ' ' << group.count
+                  << ' ' << group.analysis << '\n';
+        }
+        m_out << "all " << kinds->getAllGroupsFlag() << '\n';
+        return true;
+    }
+    if (what == "filter" && statement.words.size() == 2 && statement.words[1].text == "off") {
+        kinds->setFilterClass(nullptr);
+        return true;
+    }
+    if (what == "filter" && (statement.words.size() == 2 || statement.words.size() == 3)) {
+        KyRxClass* cls = kyrxFindKyRxClass(KyString::fromUtf8(statement.words[1].text).kwszPtr());
+        if (cls == nullptr) {
+            return fail("no class " + statement.words[1].text);
+        }
+        const KyString name =
+            statement.words.size() == 3 ? KyString::fromUtf8(statement.words[2].text) : KyString();
+        if (!kinds->setFilter(cls, name)) {
+            return fail("nothing selected is of " + statement.words[1].text +
+                        (name.isEmpty() ? std::string() : " " + statement.words[2].text));
+        }
+        return true;
+    }
+    if ((what == "any" || what == "only") && statement.words.size() >= 2) {
+        KyArray<KyString> names;
+        for (std::size_t i = 1; i < statement.words.size(); ++i) {
+            names.append(KyString::fromUtf8(statement.words[i].text));
+        }
+        const bool answer =
+            what == "any" ? kinds->containsAnyClass(names) : kinds->containsOnlyClasses(names);
+        m_out << "selection " << what << ' ' << (answer ? "true" : "false") << '\n';
+        return true;
+    }
+    return fail(
+        "selection takes groups, filter CLASS [CLASSNAME], filter off, any CLASS... or "
+        "only CLASS...");
 }
 
 bool KyAppScript::printSelection(const KyAppStatement&) {

@@ -129,6 +129,9 @@ private:
     bool echo(const KyAppStatement& statement);
     bool select(const KyAppStatement& statement);
     bool printSelection(const KyAppStatement& statement);
+    // `selection groups`, `filter CLASS [CLASSNAME]`, `filter off`, `any`,
+    // `only`: the SELECTION context's groups by kind and its filter.
+    bool selectionStatement(const KyAppStatement& statement);
     bool viewport(const KyAppStatement& statement);
     bool log(const KyAppStatement& statement);
     bool watch(const KyAppStatement& statement);

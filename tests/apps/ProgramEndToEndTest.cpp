@@ -186,6 +186,10 @@ TEST_F(Program, SubEntitiesAreSelectedBesideObjectsAndBadFormsAreErrors) {
     expectScript("select_subentities", 1);
 }
 
+TEST_F(Program, TheSelectionShowsCommonValuesWritesToAllAndSortsIntoGroups) {
+    expectScript("selection_context", 1);
+}
+
 TEST_F(Program, DocumentsOpenSwitchAndCloseWithTheHostsEvents) {
     expectScript("documents", 0);
     EXPECT_TRUE(fs::exists(folder / "drawing1.kyd"));
