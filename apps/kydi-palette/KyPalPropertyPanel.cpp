@@ -7,6 +7,9 @@
 #include <QVBoxLayout>
 
 #include "KyPalColorDelegate.h"
+#include "kydi/KyDiContext.h"
+#include "kydi/KyDiContextManager.h"
+#include "kydi/KyDiManager.h"
 #include "kydiqt/KyDiQtPropertyModel.h"
 
 KyPalPropertyPanel::KyPalPropertyPanel(QWidget* parent)
@@ -15,6 +18,7 @@ KyPalPropertyPanel::KyPalPropertyPanel(QWidget* parent)
       m_contexts(new QComboBox(this)),
       m_tree(new QTreeView(this)) {
     m_contexts->setObjectName("propertyContext");
+    m_contexts->addItem(tr("Selection, else drawing"), QString());
     m_contexts->addItem(tr("Drawing"), QStringLiteral("DRAWING"));
     m_contexts->addItem(tr("Selection"), QStringLiteral("SELECTION"));
     m_tree->setObjectName("propertyTree");
@@ -39,7 +43,7 @@ KyPalPropertyPanel::KyPalPropertyPanel(QWidget* parent)
     connect(m_model, &QAbstractItemModel::rowsInserted, this, &KyPalPropertyPanel::expand);
     connect(m_contexts, &QComboBox::currentIndexChanged, this,
             [this] { showContext(m_contexts->currentData().toString()); });
-    showContext(QStringLiteral("DRAWING"));
+    followSelection();
 }
 
 void KyPalPropertyPanel::showContext(const QString& name) {
@@ -49,6 +53,27 @@ void KyPalPropertyPanel::showContext(const QString& name) {
         m_contexts->setCurrentIndex(entry);
         return;
     }
+    if (name.isEmpty()) {
+        followSelection();
+        return;
+    }
+    show(name);
+}
+
+void KyPalPropertyPanel::followSelection() {
+    if (!m_contexts->currentData().toString().isEmpty()) {
+        return;
+    }
+    KyDiContext* selection = KyDiManager::getContextManager()->getContext(L"SELECTION", true);
+    show(selection != nullptr && selection->isActive() ? QStringLiteral("SELECTION")
+                                                       : QStringLiteral("DRAWING"));
+}
+
+void KyPalPropertyPanel::show(const QString& name) {
+    if (name == m_shown) {
+        return;
+    }
+    m_shown = name;
     m_model->setContext(name);
     expand();
 }

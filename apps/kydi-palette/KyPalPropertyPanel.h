@@ -1,7 +1,8 @@
 // KyPalPropertyPanel: the properties of the drawing ("DRAWING" context) or of
-// the selection ("SELECTION"), as a tree of categories kept expanded. Values
-// are edited in place and written through the context, so a change leaves as
-// the host's command.
+// the selection ("SELECTION"), as a tree of categories kept expanded. By
+// default it follows the user: the selection's common values while something
+// is selected, the drawing's otherwise. Values are edited in place and
+// written through the context, so a change leaves as the host's command.
 #pragma once
 
 #include <QWidget>
@@ -17,13 +18,21 @@ public:
 
     KyDiQtPropertyModel* model() const { return m_model; }
 
-    // Shows the context held under `name`: "DRAWING" or "SELECTION".
+    // Shows the context held under `name`: "DRAWING" or "SELECTION"; an
+    // empty name follows the selection.
     void showContext(const QString& name);
+    // After a refresh pass: following the selection, shows the context that
+    // stands for what the user has now.
+    void followSelection();
+    // The context shown now.
+    QString shownContext() const { return m_shown; }
 
 private:
     void expand();
+    void show(const QString& name);
 
     KyDiQtPropertyModel* m_model;
     QComboBox* m_contexts;
     QTreeView* m_tree;
+    QString m_shown;
 };

@@ -80,4 +80,5 @@ void KyPalWindow::refreshStep() {
     KyDiManager::refresh();
     m_commandLine->showNewLines();
     m_currentLayer->showCurrent();
+    m_properties->followSelection();
 }

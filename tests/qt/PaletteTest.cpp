@@ -24,6 +24,9 @@
 #include "KyPalPropertyPanel.h"
 #include "KyPalWindow.h"
 #include "KyRefDocument.h"
+#include "KyRefSelectionService.h"
+#include "db/KyDbDatabase.h"
+#include "db/KyDbHandle.h"
 #include "kydiqt/KyDiQtCollectionModel.h"
 #include "kydiqt/KyDiQtPropertyModel.h"
 #include "manager/RefHostFixture.h"
@@ -233,6 +236,32 @@ TEST_F(Palette, TheWindowSendsTheUsersChoicesAndFollowsTheHost) {
     EXPECT_EQ(shown.index(0, Column::NameColumn).data().toString(), "Doors");
     palette.layerTable()->setFilterText("");
     EXPECT_EQ(shown.rowCount(), palette.layers()->rowCount());
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(Palette, ThePropertyPanelShowsTheSelectionWhileSomethingIsSelected) {
+    KyPalWindow& palette = window();
+    KyPalPropertyPanel& panel = *palette.properties();
+    EXPECT_EQ(panel.shownContext(), "DRAWING");
+    KyDbObjectId line;
+    KyDbObjectId circle;
+    KyDbDatabase* db = host.documents().currentDatabase();
+    db->getKyDbObjectId(line, KyDbHandle(0x4B));
+    db->getKyDbObjectId(circle, KyDbHandle(0x4E));
+    host.selectionService()->setSelection({line, circle});
+    palette.refreshStep();
+    EXPECT_EQ(panel.shownContext(), "SELECTION");
+    // What a line and a circle share, and the values they agree on.
+    EXPECT_TRUE(panel.model()->valueIndex("Color").isValid());
+    EXPECT_FALSE(panel.model()->valueIndex("Radius").isValid());
+    EXPECT_TRUE(
+        panel.model()->valueIndex("LocalizedName").data(KyDiQtPropertyModel::VariesRole).toBool());
+    host.selectionService()->clear();
+    palette.refreshStep();
+    EXPECT_EQ(panel.shownContext(), "DRAWING");
 }
 
 }  // namespace
