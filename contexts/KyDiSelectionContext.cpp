@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "collections/CSelectedItemHelper.h"
+#include "contexts/KyDiHatchCumulativeAreaProperty.h"
 #include "db/KyDbGuid.h"
 #include "db/KyDbViewport.h"
 #include "kydi/KyDiCollectionReactor.h"
@@ -14,6 +15,7 @@
 #include "manager/host/KyDiHostAccess.h"
 #include "reflection/KyDiMemberIterator.h"
 #include "rx/KyRxDictionary.h"
+#include "rx/KyRxMember.h"
 #include "rx/KyRxProperty.h"
 
 KYDI_DEFINE_CLASS_MEMBERS(KyDiSelectionContext, kSelectionContext)
@@ -96,6 +98,14 @@ KyDiSelectionContext::~KyDiSelectionContext() {
     if (g_instance == this) {
         g_instance = nullptr;
     }
+}
+
+void KyDiSelectionContext::buildMembers(KyRxMemberCollectionBuilder& builder, void* /*userData*/) {
+    builder.add(new KyDiSelectionContextCumulativeAreaProperty(builder.owner()));
+}
+
+Kyro::ErrorStatus KyDiSelectionContext::cumulativeArea(KyRxValue& value) {
+    return KyDiHatchCumulativeAreaPropertyBase::areaOf(items(), kind(), value);
 }
 
 KyDiContext* KyDiSelectionContext::create(const wchar_t* name) {

@@ -23,6 +23,7 @@
 #include "kydi/KyDiProxy.h"
 
 class KyDiObservableCollection;
+class KyRxMemberCollectionBuilder;
 class KyDiSelectedItemsReactor;
 
 class KyDiSelectionContext : public KyDiContextBase,
@@ -54,6 +55,10 @@ public:
     bool containsAnyClass(const KyArray<KyString>& names) override;
     bool containsOnlyClasses(const KyArray<KyString>& names) override;
     int getAllGroupsFlag() override { return m_allGroupsFlag; }
+
+    // The area the selected hatches cover together ("CumulativeArea").
+    Kyro::ErrorStatus cumulativeArea(KyRxValue& value);
+    static void buildMembers(KyRxMemberCollectionBuilder& builder, void* userData);
 
     // The selected items changed: the filter and what was computed go.
     void selectionChanged();

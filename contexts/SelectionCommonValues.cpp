@@ -1,11 +1,13 @@
 #include "contexts/SelectionCommonValues.h"
 
 #include <algorithm>
+#include <cwchar>
 #include <map>
 #include <memory>
 #include <vector>
 
 #include "collections/CSelectedItemHelper.h"
+#include "contexts/KyDiSelectionContext.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbEntity.h"
 #include "kydi/KyDiDbItem.h"
@@ -21,6 +23,7 @@
 #include "rx/KyRxMemberQueryEngine.h"
 #include "rx/KyRxMethod.h"
 #include "rx/KyRxProperty.h"
+#include "rx/KyRxStandardAttributes.h"
 
 namespace {
 
@@ -224,6 +227,7 @@ Kyro::ErrorStatus SelectionCommonValues::buildCommonMembers(const KyDiItemArray&
     if (found == nullptr) {
         return Kyro::eNullObjectPointer;
     }
+    bool cumulative = false;
     for (; !found->done(); found->next()) {
         const KyRxMember* member = found->current();
         const bool shown =
@@ -234,9 +238,38 @@ Kyro::ErrorStatus SelectionCommonValues::buildCommonMembers(const KyDiItemArray&
         }
         if (const KyRxMember* wrapped = PropertyWrapping::wrapMember(member)) {
             members.append(const_cast<KyRxMember*>(wrapped));
+            cumulative = cumulative ||
+                         (kyrxCast<KyRxProperty>(member) != nullptr &&
+                          member->attributes().get(KyRxCumulativeAttribute::desc()) != nullptr);
         }
     }
+    // A shared property that adds up over a selection (a hatch's area) brings
+    // the context's own members, which add it up.
+    if (cumulative) {
+        appendSelectionContextMembers(members);
+    }
     return Kyro::eOk;
+}
+
+void SelectionCommonValues::appendSelectionContextMembers(KyDiMemberArray& members) {
+    KyDiSelectionContext* context = KyDiSelectionContext::instance();
+    const std::unique_ptr<KyRxMemberIterator> own(
+        context != nullptr ? engine().newMemberIterator(context) : nullptr);
+    for (; own != nullptr && !own->done(); own->next()) {
+        if (kyrxCast<KyRxPropertyBase>(own->current()) == nullptr) {
+            continue;
+        }
+        if (const KyRxMember* wrapped = PropertyWrapping::wrapMember(own->current())) {
+            members.append(const_cast<KyRxMember*>(wrapped));
+        }
+    }
+}
+
+bool SelectionCommonValues::hasSelectionAffinity(const KyRxMember* member) {
+    const auto* affinity = static_cast<const KyRxAffinityAttribute*>(
+        member->attributes().get(KyRxAffinityAttribute::desc()));
+    return kyrxCast<KyRxProperty>(member) != nullptr && affinity != nullptr &&
+           std::wcsncmp(affinity->name(), L"SelectionContext", 16) == 0;
 }
 
 Kyro::ErrorStatus SelectionCommonValues::getCommonValue(const KyDiItemArray& items, Kind kind,
@@ -248,6 +281,20 @@ Kyro::ErrorStatus SelectionCommonValues::getCommonValue(const KyDiItemArray& ite
     if (items.length() > 1 && kyrxCast<KyRxCollectionProperty>(hostMember(property)) != nullptr &&
         !(filter.cls != nullptr && filtered.size() == 1)) {
         return Kyro::eNotApplicable;
+    }
+    // The context's own members are read on the context: they sum the
+    // selection up.
+    if (const KyRxMember* own = hostMember(property); hasSelectionAffinity(own)) {
+        KyDiSelectionContext* context = KyDiSelectionContext::instance();
+        if (context == nullptr) {
+            return Kyro::eNotApplicable;
+        }
+        const Kyro::ErrorStatus status =
+            static_cast<const KyRxProperty*>(own)->getValue(context, value);
+        if (status == Kyro::eOk && !value.isEmpty() && !value.isVaries()) {
+            KyDiConvertToDataItem(value);
+        }
+        return status;
     }
     Resolver resolver(property);
     KyRxValue result;

@@ -15,6 +15,7 @@
 #include "kydi/KyDiDynamicObject.h"
 
 class KyRxClass;
+class KyRxMember;
 class KyRxObject;
 class KyRxPropertyBase;
 class KyRxValueIterator;
@@ -61,6 +62,11 @@ public:
 
     // The object's "ClassName"; empty without one.
     static KyString className(const KyRxObject* object) { return memberText(object, L"ClassName"); }
+    // The SELECTION context's own members (CumulativeArea), wrapped.
+    static void appendSelectionContextMembers(KyDiMemberArray& members);
+    // Whether `member` is one of the context's own, read on the context.
+    static bool hasSelectionAffinity(const KyRxMember* member);
+
     // The text of the object's member `name`; empty when it has no such
     // member, it can't be read, or its value is no text.
     static KyString memberText(const KyRxObject* object, const wchar_t* name);

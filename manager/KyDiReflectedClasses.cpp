@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "contexts/KyDiDrawingContext.h"
+#include "contexts/KyDiSelectionContext.h"
 #include "contexts/KyDiViewportContext.h"
 #include "manager/host/IKyDiCustomContextHost.h"
 
@@ -41,7 +42,7 @@ const ReflectedClassRow kRows[kClassCount] = {
     {L"KyDiDbObjectContext", L"KyDiContextBase", nullptr},
     {L"KyDiRolloverTipsContext", L"KyDiDbObjectContext", nullptr},
     {L"KyDiDrawingContext", L"KyDiContextBase", &KyDiDrawingContext::buildMembers},
-    {L"KyDiSelectionContext", L"KyDiContextBase", nullptr},
+    {L"KyDiSelectionContext", L"KyDiContextBase", &KyDiSelectionContext::buildMembers},
     {L"KyDiViewportContext", L"KyDiContextBase", &KyDiViewportContext::buildMembers},
     {L"KyDiRenderContext", L"KyDiContextBase", nullptr},
     {L"KyDiLayerFacet", L"KyRxObject", nullptr},

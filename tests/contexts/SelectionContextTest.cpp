@@ -181,6 +181,19 @@ TEST_F(SelectionContext, ObjectsOnLockedLayersAreLeftAloneAndOnlyThoseAnswer87) 
     EXPECT_FALSE(colorOf(L"5B").colorIndex() == 2);
 }
 
+TEST_F(SelectionContext, TwoHatchesAddUpTheAreaTheyCoverAndAHatchWithALineDoesNot) {
+    // The floor 5E and the rug BB overlap: the area they cover together
+    // counts the overlap once.
+    select({L"5E", L"BB"});
+    EXPECT_TRUE(members().contains("CumulativeArea"));
+    EXPECT_TRUE(read(L"Area").isVaries());
+    const KyRxValue area = read(L"CumulativeArea");
+    ASSERT_NE(valueCast<double>(&area), nullptr);
+    EXPECT_DOUBLE_EQ(*valueCast<double>(&area), 14900000.0);
+    select({L"5E", L"4B"});
+    EXPECT_FALSE(members().contains("CumulativeArea"));
+}
+
 TEST_F(SelectionContext, BeyondPropObjLimitTheContextIsInactive) {
     select({L"4B", L"4C", L"4E"});
     type(L"PROPOBJLIMIT\n2\n");
