@@ -38,13 +38,6 @@ protected:
         ASSERT_NE(selected, nullptr);
         pass();
     }
-    KyDbObjectId object(const wchar_t* handle) {
-        KyDbObjectId id;
-        KyDbHandle parsed;
-        KyDbHandle::fromText(handle, parsed);
-        db()->getKyDbObjectId(id, parsed);
-        return id;
-    }
     Selected& imp() { return *static_cast<Selected*>(selected->imp()); }
     KyDiDbItem* itemAt(int index) {
         return kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(selected->getItems()[index]));

@@ -52,13 +52,6 @@ protected:
         manager->removeContext(L"POINTED");
         RefHostFixture::TearDown();
     }
-    KyDbObjectId object(const wchar_t* handle) {
-        KyDbObjectId id;
-        KyDbHandle parsed;
-        KyDbHandle::fromText(handle, parsed);
-        host.documents().currentDatabase()->getKyDbObjectId(id, parsed);
-        return id;
-    }
     // The members the context lists, by name.
     std::set<std::string> members() {
         std::set<std::string> names;

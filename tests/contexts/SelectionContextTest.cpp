@@ -48,13 +48,6 @@ protected:
         spy.reset();
         RefHostFixture::TearDown();
     }
-    KyDbObjectId object(const wchar_t* handle) {
-        KyDbObjectId id;
-        KyDbHandle parsed;
-        KyDbHandle::fromText(handle, parsed);
-        host.documents().currentDatabase()->getKyDbObjectId(id, parsed);
-        return id;
-    }
     // Selects, and lets two passes bring the context in step.
     void select(std::initializer_list<const wchar_t*> handles) {
         std::vector<KyDbObjectId> ids;

@@ -14,6 +14,8 @@
 
 #include "KyRefHost.h"
 #include "KyRefManualClock.h"
+#include "db/KyDbDatabase.h"
+#include "db/KyDbHandle.h"
 #include "kydi/KyDiManager.h"
 #include "manager/RecordingReactors.h"
 
@@ -84,6 +86,17 @@ protected:
     void type(const wchar_t* text) {
         host.KyRefHost::editor()->interpreter().queue(text);
         host.idle();
+    }
+    // The object of the drawing in front with this handle ("4B"); the null id
+    // when there is none.
+    KyDbObjectId object(const wchar_t* handle) {
+        KyDbObjectId id;
+        KyDbHandle parsed;
+        KyDbDatabase* db = host.documents().currentDatabase();
+        if (db != nullptr && KyDbHandle::fromText(handle, parsed)) {
+            db->getKyDbObjectId(id, parsed);
+        }
+        return id;
     }
     // The value the host holds, in the spies' notation.
     std::wstring hostValue(const wchar_t* name) {
