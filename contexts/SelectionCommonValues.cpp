@@ -13,6 +13,8 @@
 #include "kydi/KyDiDbItem.h"
 #include "kydi/KyDiExpression.h"
 #include "kydi/KyDiFunctions.h"
+#include "kydi/KyDiManager.h"
+#include "kydi/KyDiObservableCollection.h"
 #include "manager/NameConverters.h"
 #include "manager/host/IKyDbDynBlockReferenceHost.h"
 #include "manager/host/KyDiHostAccess.h"
@@ -432,4 +434,21 @@ KyRxValueIterator* SelectionCommonValues::newCommonValueIterator(const KyDiItemA
         }
     }
     return values.release();
+}
+
+Kyro::ErrorStatus KyDiGetCommonValue(const KyDiItemArray& list, const KyRxPropertyBase* property,
+                                     KyRxValue& value) {
+    if (property == nullptr) {
+        return Kyro::eInvalidInput;
+    }
+    return SelectionCommonValues::getCommonValue(list, Kind::kPlainObjects, property, value, -1,
+                                                 nullptr, Filter(), SelectionCommonValues::IdSet());
+}
+
+bool hasTableSubSelection() {
+    KyDiObservableCollection* selected =
+        KyDiManager::getKnownCollection(L"KYDI_DATAITEM_SELECTED_ITEMS");
+    return selected != nullptr &&
+           static_cast<KyDiDataSelectedItemCollectionImp*>(selected->imp())->subEntitySelection() ==
+               KyDiDataSelectedItemCollectionImp::kCellsOrComplex;
 }

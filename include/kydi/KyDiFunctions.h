@@ -5,6 +5,7 @@
 #include "base/KyArray.h"
 #include "base/KyString.h"
 #include "db/KyDbObjectId.h"
+#include "kydi/KyDiDynamicObject.h"
 #include "kydi/KyDiExport.h"
 
 class KyDiContext;
@@ -34,6 +35,14 @@ KYDI_API KyRxMember* KyDiFindMember(const KyRxObject* object, const wchar_t* nam
 // `iterator`, and deletes the answer.
 KYDI_API KyRxMemberIterator* KyDiFilterProperties(const KyRxObject* object,
                                                   KyRxMemberIterator* iterator);
+// The value the objects `list` stands for agree on, as the selection reads
+// it: "varies" where they differ, empty for an empty list; statuses as a
+// read of the property.
+KYDI_API Kyro::ErrorStatus KyDiGetCommonValue(const KyDiItemArray& list,
+                                              const KyRxPropertyBase* property, KyRxValue& value);
+// Whether the selection is one table with some of its cells selected.
+KYDI_API bool hasTableSubSelection();
+
 // A data item read from a property into the host's value for `property`: an
 // item of a record into its id, a colour or transparency item into its
 // value, an item of an enumerated value into the property's type. Other

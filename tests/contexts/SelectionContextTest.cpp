@@ -23,6 +23,7 @@
 #include "kydi/KyDiContext.h"
 #include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiFunctions.h"
+#include "kydi/KyDiObservableCollection.h"
 #include "manager/RefHostFixture.h"
 #include "rx/KyRxMemberQueryEngine.h"
 #include "rx/KyRxProperty.h"
@@ -185,6 +186,23 @@ TEST_F(SelectionContext, TwoHatchesAddUpTheAreaTheyCoverAndAHatchWithALineDoesNo
     EXPECT_DOUBLE_EQ(*valueCast<double>(&area), 14900000.0);
     select({L"5E", L"4B"});
     EXPECT_FALSE(members().contains("CumulativeArea"));
+}
+
+TEST_F(SelectionContext, TheFreeFunctionsReadCommonValuesAndTellCellsApart) {
+    EXPECT_FALSE(hasTableSubSelection()) << "nothing selected";
+    select({L"4B", L"4C"});
+    const KyDiItemArray& lines =
+        KyDiManager::getKnownCollection(L"KYDI_DATAITEM_SELECTED_ITEMS")->getItems();
+    KyRxValue value;
+    ASSERT_EQ(KyDiGetCommonValue(lines, property(L"StartPoint"), value), Kyro::eOk);
+    EXPECT_TRUE(value.isVaries());
+    ASSERT_EQ(KyDiGetCommonValue(lines, property(L"LineWeight"), value), Kyro::eOk);
+    EXPECT_FALSE(value.isVaries());
+    EXPECT_FALSE(hasTableSubSelection());
+    ASSERT_EQ(host.selectionService()->selectCells(object(L"61"), KyDbCellRange(0, 0, 0, 1)),
+              Kyro::eOk);
+    KyDiManager::refresh();
+    EXPECT_TRUE(hasTableSubSelection());
 }
 
 TEST_F(SelectionContext, BeyondPropObjLimitTheContextIsInactive) {
