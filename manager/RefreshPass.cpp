@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "collections/KyDiImpCollectionBase.h"
-#include "kydi/KyDiContextBase.h"
 #include "contexts/KyDiContextManagerImp.h"
 #include "db/KyDbDatabase.h"
+#include "kydi/KyDiContextBase.h"
 #include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiManagerReactor.h"
 #include "kydi/KyDiObservableCollection.h"

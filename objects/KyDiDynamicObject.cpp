@@ -2,8 +2,8 @@
 
 #include <mutex>
 
-#include "kydi/KyDiContextBase.h"
 #include "kydi/KyDiContext.h"
+#include "kydi/KyDiContextBase.h"
 #include "manager/KyDiReflectedClasses.h"
 #include "reflection/PropertyFilter.h"
 #include "rx/KyRxDictionary.h"

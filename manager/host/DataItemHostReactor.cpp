@@ -3,11 +3,11 @@
 #include <vector>
 
 #include "collections/KyDiImpCollectionBase.h"
-#include "kydi/KyDiContextBase.h"
 #include "contexts/KyDiContextManagerImp.h"
 #include "currency/DataItemCurrencyTrackerBase.h"
 #include "currency/LayoutCurrencyTrackerBase.h"
 #include "currency/PlotCurrencyTrackerBase.h"
+#include "kydi/KyDiContextBase.h"
 #include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiObservableCollection.h"
 #include "kydi/KyDiObservableEnumCollection.h"

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "contexts/ContextFactories.h"
-#include "kydi/KyDiContextBase.h"
 #include "contexts/ManagerSpy.h"
+#include "kydi/KyDiContextBase.h"
 #include "kydi/KyDiContextChange.h"
 #include "kydi/KyDiContextIterator.h"
 #include "kydi/KyDiContextManager.h"

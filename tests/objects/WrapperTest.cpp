@@ -7,9 +7,9 @@
 
 #include <memory>
 
-#include "kydi/KyDiContextBase.h"
 #include "db/KyCmTransparency.h"
 #include "db/KyDbEnums.h"
+#include "kydi/KyDiContextBase.h"
 #include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiNamedItem.h"
 #include "objects/ItemFixture.h"
