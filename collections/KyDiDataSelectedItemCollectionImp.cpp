@@ -22,11 +22,6 @@ bool isTableWithCells(KyDbObjectId id) {
     return table.openStatus() == Kyro::eOk && table->hasSubSelection();
 }
 
-KyDbObjectId idOfItem(KyDiDynamicObject* item) {
-    const auto* record = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(item));
-    return record != nullptr ? record->objectId() : KyDbObjectId();
-}
-
 }  // namespace
 
 KyDiDataSelectedItemCollectionImp::KyDiDataSelectedItemCollectionImp(const wchar_t* name,
@@ -103,7 +98,7 @@ bool KyDiDataSelectedItemCollectionImp::subFillFromDatabase(bool /*initial*/, Ky
 
 KyDiDataSelectedItemCollectionImp::SubEntitySelection KyDiDataSelectedItemCollectionImp::reclassify(
     const KyDiItemArray& list) {
-    if (list.length() == 1 && isTableWithCells(idOfItem(list[0]))) {
+    if (list.length() == 1 && isTableWithCells(idOf(list[0]))) {
         return kCellsOrComplex;
     }
     for (int i = 0; i < list.length(); ++i) {

@@ -6,14 +6,10 @@
 #include "db/KyDbOpenObject.h"
 #include "kydi/KyDiDbNamedItem.h"
 
-namespace {
-
-KyDbObjectId idOf(KyDiDynamicObject* item) {
+KyDbObjectId KyDiImpDbObjectCollection::idOf(KyDiDynamicObject* item) {
     const auto* dbItem = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(item));
     return dbItem != nullptr ? dbItem->objectId() : KyDbObjectId();
 }
-
-}  // namespace
 
 KyDiImpDbObjectCollection::KyDiImpDbObjectCollection(const wchar_t* name,
                                                      KyDiCurrencyTracker* tracker)

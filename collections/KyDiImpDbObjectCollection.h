@@ -58,6 +58,8 @@ public:
     int subFindItem(const KyDiItemArray& list, KyDiDynamicObject* item) override;
     bool subTooManyChanges() const override;
 
+    // The record an item stands for; the null id for an item of none.
+    static KyDbObjectId idOf(KyDiDynamicObject* item);
     // Puts `reactor` on the object of `id` once (erased objects too); false
     // when the object can't be opened.
     static bool attachOnce(KyDbObjectId id, KyDbObjectReactor* reactor);

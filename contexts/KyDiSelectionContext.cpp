@@ -64,11 +64,6 @@ private:
     KyDiEditorService* m_editor;
 };
 
-KyDbObjectId idOf(KyDiDynamicObject* item) {
-    const auto* record = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(item));
-    return record != nullptr ? record->objectId() : KyDbObjectId();
-}
-
 bool named(const KyArray<KyString>& names, const KyString& name) {
     for (int i = 0; i < names.length(); ++i) {
         if (names[i].compare(name) == 0) {
@@ -210,7 +205,7 @@ Kyro::ErrorStatus KyDiSelectionContext::setValue(const KyRxPropertyBase* propert
             // Each excluded id takes out the first item that stands for it.
             for (int i = 0; i < idsA.length(); ++i) {
                 for (int j = 0; j < written.length(); ++j) {
-                    if (idOf(written[j]) == idsA[i]) {
+                    if (KyDiImpDbObjectCollection::idOf(written[j]) == idsA[i]) {
                         written.removeAt(j);
                         break;
                     }
@@ -326,7 +321,7 @@ Kyro::ErrorStatus KyDiSelectionContext::buildGroups() {
             status = Kyro::eInvalidInput;
             break;
         }
-        const KyDbObjectId id = idOf(item);
+        const KyDbObjectId id = KyDiImpDbObjectCollection::idOf(item);
         all.append(id);
         // An object the host keeps from being shown is no group's.
         KyGuid classId;
