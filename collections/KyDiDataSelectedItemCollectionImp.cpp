@@ -4,6 +4,7 @@
 #include "db/KyDbDimension.h"
 #include "db/KyDbGuid.h"
 #include "db/KyDbObjectPointer.h"
+#include "db/KyDbOpenObject.h"
 #include "db/KyDbTable.h"
 #include "kydi/KyDiDataItemFactory.h"
 #include "kydi/KyDiDbComplexItem.h"
@@ -54,9 +55,18 @@ bool KyDiDataSelectedItemCollectionImp::isListableSelectedObject(KyDbObjectId id
     if (cls == nullptr || !cls->isDerivedFrom(KyDbDimension::desc())) {
         return true;
     }
-    KyDbObjectPointer<KyDbObject> object(id, KyDb::kForRead);
+    // A dimension the host has open for write is read as it stands.
+    KyDbObject* object = nullptr;
+    bool openedHere = false;
+    if (accessKyDbObjectForRead(object, id, &KyDbDimension::desc, openedHere) != Kyro::eOk) {
+        return false;
+    }
     KyGuid classId;
-    return object.openStatus() == Kyro::eOk && object->getClassID(&classId) != kClassHidden;
+    const bool listed = object->getClassID(&classId) != kClassHidden;
+    if (openedHere) {
+        object->close();
+    }
+    return listed;
 }
 
 bool KyDiDataSelectedItemCollectionImp::subFillFromDatabase(bool /*initial*/, KyDbDatabase*,

@@ -145,6 +145,9 @@ KyRxMemberIterator* KyDiSelectionContext::subNewMemberIterator() {
     if (items().isEmpty()) {
         return nullptr;
     }
+    // A listing starts the values over.
+    m_valueCache.clear();
+    m_modifiedObjects.setLogicalLength(0);
     KyDiMemberArray members(0, 16);
     if (SelectionCommonValues::buildCommonMembers(items(), kind(), filter(), m_filteredObjects,
                                                   members) != Kyro::eOk ||
@@ -236,6 +239,8 @@ KyRxValueIterator* KyDiSelectionContext::newValueIterator(const KyRxPropertyBase
 }
 
 void KyDiSelectionContext::resetFilter() {
+    // The values read under another filter are of other objects.
+    m_valueCache.clear();
     m_modifiedObjects.setLogicalLength(0);
     m_filteredObjects.clear();
     m_filterClass = nullptr;

@@ -98,14 +98,10 @@ bool same(const KyRxValue& a, const KyRxValue& b) {
 
 // The classes an object's members come from: its own and those of its
 // facets.
-std::vector<const KyRxClass*> memberClasses(const KyRxObject* object, const KyRxClass* cls) {
+std::vector<const KyRxClass*> memberClasses(const KyRxObject* object) {
     KyDiMemberQueryContext probe;
     const std::unique_ptr<KyRxMemberIterator> unused(engine().newMemberIterator(object, &probe));
-    std::vector<const KyRxClass*> classes = probe.classes();
-    if (classes.empty() && cls != nullptr) {
-        classes.push_back(cls);
-    }
-    return classes;
+    return probe.classes();
 }
 
 }  // namespace
@@ -184,7 +180,7 @@ Kyro::ErrorStatus SelectionCommonValues::buildCommonMembers(const KyDiItemArray&
         }
         commonClass = commonClass == nullptr ? cls : lowestCommonClass(commonClass, cls);
         if (membersLeft) {
-            const std::vector<const KyRxClass*> classes = memberClasses(object, cls);
+            const std::vector<const KyRxClass*> classes = memberClasses(object);
             if (classes.empty()) {
                 membersLeft = false;
             } else if (running.empty()) {
@@ -214,12 +210,10 @@ Kyro::ErrorStatus SelectionCommonValues::buildCommonMembers(const KyDiItemArray&
     for (const KyRxClass* cls : running) {
         classes.append(cls);
     }
+    // The lowest common class first, then the running classes; a member met
+    // again further on is hidden by the promoting context.
     if (commonClass != nullptr) {
-        if (classes.isEmpty()) {
-            classes.append(commonClass);
-        } else {
-            classes[0] = commonClass;
-        }
+        classes.insertAt(0, commonClass);
     }
     if (classes.isEmpty()) {
         return Kyro::eOk;
@@ -310,6 +304,9 @@ Kyro::ErrorStatus SelectionCommonValues::getCommonValue(const KyDiItemArray& ite
         }
         const KyString name = className(object);
         if (name.isEmpty() && filter.name.isEmpty()) {
+            if (object->isA() == nullptr) {
+                return Kyro::eInvalidInput;
+            }
             if (filter.cls != nullptr && object->isA() != filter.cls) {
                 continue;
             }

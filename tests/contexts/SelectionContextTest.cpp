@@ -146,8 +146,11 @@ TEST_F(SelectionContext, ALineAndACircleShowOnlyWhatTheyShareAndAFilterNarrowsTo
     EXPECT_FALSE(kinds->containsOnlyClasses(lineOnly));
     EXPECT_TRUE(kinds->containsOnlyClasses(lineAndCircle));
 
+    // A value read before a filter is not what the filter reads.
+    EXPECT_TRUE(read(L"LocalizedName").isVaries());
     // Narrowed to the circle: its own members, its values, writes to it alone.
     ASSERT_TRUE(kinds->setFilterClass(KyDbCircle::desc()));
+    EXPECT_FALSE(read(L"LocalizedName").isVaries());
     EXPECT_FALSE(kinds->setFilterClass(KyDbLine::desc()->myParent()));
     ASSERT_TRUE(kinds->setFilterClass(KyDbCircle::desc()));
     listed = members();
