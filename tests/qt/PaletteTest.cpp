@@ -25,6 +25,7 @@
 #include "KyPalWindow.h"
 #include "KyRefDocument.h"
 #include "KyRefSelectionService.h"
+#include "QtModelFixture.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbHandle.h"
 #include "kydiqt/KyDiQtCollectionModel.h"
@@ -42,13 +43,7 @@ protected:
     Palette() : RefHostFixture(onManualClock(), Drawing::kNone) {}
 
     void SetUp() override {
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        }
-        static int argc = 1;
-        static char name[] = "qt_tests";
-        static char* argv[] = {name, nullptr};
-        m_app = std::make_unique<QApplication>(argc, argv);
+        m_app = kytest::offscreenApplication<QApplication>();
         KyString error;
         ASSERT_NE(host.documents().openDocument(KyString::fromUtf8(KYDI_TEST_SAMPLE), error),
                   nullptr)

@@ -24,18 +24,25 @@ inline void PrintTo(const QString& text, std::ostream* out) {
 
 namespace kytest {
 
+// The Qt application of a test, on the offscreen platform unless the
+// environment names another.
+template <typename Application>
+std::unique_ptr<Application> offscreenApplication() {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    static int argc = 1;
+    static char name[] = "qt_tests";
+    static char* argv[] = {name, nullptr};
+    return std::make_unique<Application>(argc, argv);
+}
+
 class QtModelFixture : public RefHostFixture {
 protected:
     using RefHostFixture::RefHostFixture;
 
     void SetUp() override {
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-        }
-        static int argc = 1;
-        static char name[] = "qt_tests";
-        static char* argv[] = {name, nullptr};
-        m_app = std::make_unique<QGuiApplication>(argc, argv);
+        m_app = offscreenApplication<QGuiApplication>();
         RefHostFixture::SetUp();
     }
     void TearDown() override {
