@@ -77,8 +77,7 @@ bool KyDiDataSelectedItemCollectionImp::subFillFromDatabase(bool /*initial*/, Ky
     *context = nullptr;
     m_subEntitySelection = kPlainObjects;
     m_subEntities.setLogicalLength(0);
-    KyDiSelectionService* selection =
-        KyDiHostAccess::host() != nullptr ? KyDiHostAccess::host()->selectionService() : nullptr;
+    KyDiSelectionService* selection = KyDiHostAccess::selectionService();
     if (selection == nullptr) {
         return true;
     }

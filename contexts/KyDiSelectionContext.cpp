@@ -12,6 +12,7 @@
 #include "kydi/KyDiManager.h"
 #include "kydi/KyDiObservableCollection.h"
 #include "manager/KyDiReflectedClasses.h"
+#include "manager/host/EditorCommandScope.h"
 #include "manager/host/KyDiHostAccess.h"
 #include "reflection/KyDiMemberIterator.h"
 #include "rx/KyRxDictionary.h"
@@ -41,28 +42,6 @@ KyDiSelectionContext* g_instance = nullptr;
 
 // The command scope a write of the selection stands in, one step of undo.
 constexpr wchar_t kWriteScope[] = L"OPM_CHGPROP";
-
-// Opens `begin` of the editor's command scope and closes it on every path.
-class CommandScope {
-public:
-    explicit CommandScope(const wchar_t* name) : m_name(name) {
-        m_editor = m_name != nullptr ? KyDiHostAccess::editor() : nullptr;
-        if (m_editor != nullptr) {
-            m_editor->beginCommand(m_name);
-        }
-    }
-    ~CommandScope() {
-        if (m_editor != nullptr) {
-            m_editor->endCommand(m_name);
-        }
-    }
-    CommandScope(const CommandScope&) = delete;
-    CommandScope& operator=(const CommandScope&) = delete;
-
-private:
-    const wchar_t* m_name;
-    KyDiEditorService* m_editor;
-};
 
 bool named(const KyArray<KyString>& names, const KyString& name) {
     for (int i = 0; i < names.length(); ++i) {
@@ -181,11 +160,10 @@ Kyro::ErrorStatus KyDiSelectionContext::setValue(const KyRxPropertyBase* propert
         return Kyro::eNotApplicable;
     }
     const bool varies = value.isVaries();
-    const CommandScope scope(varies ? nullptr : kWriteScope);
+    const EditorCommandScope scope(varies ? nullptr : kWriteScope);
     KyDiItemArray written = items();
     SelectionCommonValues::Kind writtenKind = kind();
-    KyDiSelectionService* selection =
-        KyDiHostAccess::host() != nullptr ? KyDiHostAccess::host()->selectionService() : nullptr;
+    KyDiSelectionService* selection = KyDiHostAccess::selectionService();
     if (selection != nullptr && !varies) {
         int total = 0;
         int excludedA = 0;

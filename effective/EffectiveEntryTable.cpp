@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "effective/EffectiveKeys.h"
+#include "effective/EffectiveSelectionAccessors.h"
 
 namespace {
 
@@ -13,29 +14,40 @@ constexpr std::uint32_t kDirty = KyDiEffectiveEntry::kEntryDirty;
 constexpr std::uint32_t kViewport = KyDiEffectiveEntry::kEntryViewportDependent;
 constexpr std::uint32_t kLayers = KyDiEffectiveEntry::kEntryLayerDependent;
 
+using Access = EffectiveSelectionAccessors;
+
 KyDiEffectiveEntry row(const wchar_t* key, const wchar_t* propertyName, std::uint32_t flags,
-                       std::uint64_t collectionBacked) {
+                       std::uint64_t collectionBacked,
+                       EffectiveSelectionGetter selectionGetter = nullptr,
+                       EffectiveSelectionSetter selectionSetter = nullptr) {
     KyDiEffectiveEntry entry;
     entry.key = key;
     entry.propertyName = propertyName;
     entry.flags = flags;
+    entry.selectionGetter = selectionGetter;
+    entry.selectionSetter = selectionSetter;
     entry.collectionBacked = collectionBacked;
     return entry;
 }
 
 const KyDiEffectiveEntry kRows[] = {
-    row(kLayer, L"Layer", kDirty | kViewport | kLayers, 1),
-    row(kLinetype, L"LineType", kDirty, 1),
-    row(kMaterial, L"Material", kDirty, 1),
-    row(kLineweight, L"Lineweight", kDirty, 0),
-    row(kColor, L"Color", kDirty, 1),
-    row(kDimStyle, L"DimensionStyle", kDirty, 1),
-    row(kTextStyle, L"TextStyle", kDirty, 1),
-    row(kTableStyle, L"TableStyle", kDirty, 1),
-    row(kMLeaderStyle, L"MultileaderStyle", kDirty, 1),
-    row(kSectionViewStyle, L"SectionViewStyle", kDirty, 1),
-    row(kDetailViewStyle, L"DetailViewStyle", kDirty, 1),
-    row(kTransparency, L"Transparency", kDirty | kLayers, 0),
+    row(kLayer, L"Layer", kDirty | kViewport | kLayers, 1, &Access::getLayer, &Access::setLayer),
+    row(kLinetype, L"LineType", kDirty, 1, &Access::getLinetype, &Access::setLinetype),
+    row(kMaterial, L"Material", kDirty, 1, &Access::getMaterial, &Access::setMaterial),
+    row(kLineweight, L"Lineweight", kDirty, 0, &Access::getLineweight, &Access::setLineweight),
+    row(kColor, L"Color", kDirty, 1, &Access::getColor, &Access::setColor),
+    row(kDimStyle, L"DimensionStyle", kDirty, 1, &Access::getDimensionStyle,
+        &Access::setDimensionStyle),
+    row(kTextStyle, L"TextStyle", kDirty, 1, &Access::getTextStyle, &Access::setTextStyle),
+    row(kTableStyle, L"TableStyle", kDirty, 1, &Access::getTableStyle, &Access::setTableStyle),
+    row(kMLeaderStyle, L"MultileaderStyle", kDirty, 1, &Access::getMLeaderStyle,
+        &Access::setMLeaderStyle),
+    row(kSectionViewStyle, L"SectionViewStyle", kDirty, 1, &Access::getSectionViewStyle,
+        &Access::setSectionViewStyle),
+    row(kDetailViewStyle, L"DetailViewStyle", kDirty, 1, &Access::getDetailViewStyle,
+        &Access::setDetailViewStyle),
+    row(kTransparency, L"Transparency", kDirty | kLayers, 0, &Access::getTransparency,
+        &Access::setTransparency),
     row(kVisualStyle, L"VisualStyle", kDirty, 1),
     row(kScaleList, L"ScaleList", kDirty | kViewport, 1),
     row(kShadowDisplay, L"ShadowDisplay", kDirty, 1),

@@ -7,10 +7,25 @@
 #pragma once
 
 #include <cstdint>
+#include <set>
+
+#include "base/KyroErrorStatus.h"
+#include "db/KyDbObjectId.h"
 
 class EffectivePropertyCurrencyReactor;
+class KyDbEntity;
 class KyDiCurrencyTracker;
 class KyDiDynamicObject;
+struct KyDiEffectiveValue;
+
+// Reads the value of a row from one selected entity: eOk with the record
+// filled, eNotApplicable for an entity of no class that has the value.
+using EffectiveSelectionGetter = Kyro::ErrorStatus (*)(KyDbEntity* entity,
+                                                       KyDiEffectiveValue& value);
+// Gives the selected objects `item`; `watched` holds every object selected
+// since the selection was last empty.
+using EffectiveSelectionSetter = Kyro::ErrorStatus (*)(KyDiDynamicObject* item,
+                                                       const std::set<KyDbObjectId>& watched);
 
 struct KyDiEffectiveEntry {
     enum Flags : std::uint32_t {
@@ -35,6 +50,10 @@ struct KyDiEffectiveEntry {
     // Owned by the instance that bound the row.
     EffectivePropertyCurrencyReactor* currencyReactor = nullptr;
     KyDiDynamicObject* item = nullptr;
+    // How the selection's instance reads and writes the value; null for a
+    // row the selection has no value of.
+    EffectiveSelectionGetter selectionGetter = nullptr;
+    EffectiveSelectionSetter selectionSetter = nullptr;
     // 1 for a key whose values are the items of a collection.
     std::uint64_t collectionBacked = 0;
 };

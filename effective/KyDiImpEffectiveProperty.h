@@ -93,6 +93,15 @@ public:
     void addReactor(KyDiEffectivePropertyReactor* reactor);
     void removeReactor(KyDiEffectivePropertyReactor* reactor);
 
+protected:
+    // The bound entries, by key.
+    const std::map<const wchar_t*, KyDiEffectiveEntry*>& boundEntries() const { return m_entries; }
+    // The instance's copy of every row, in table order.
+    std::vector<KyDiEffectiveEntry>& rows() { return m_rows; }
+    // The next report is one allPropertiesChanged, however many keys it
+    // covers.
+    void requestReportAll() { m_pending |= kReportAll; }
+
 private:
     // The current document with a working database, or no document.
     static KyDiDocument currentDocument();

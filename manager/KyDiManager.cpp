@@ -7,6 +7,7 @@
 #include "contexts/KyDiDrawingContext.h"
 #include "contexts/KyDiSelectionContext.h"
 #include "contexts/KyDiViewportContext.h"
+#include "effective/KyDiImpEffectiveSelectionProperty.h"
 #include "kydi/KyDiContextBase.h"
 #include "kydi/KyDiContextManager.h"
 #include "kydi/KyDiDataItemReactor.h"
@@ -91,7 +92,7 @@ void KyDiManager::initialize(KyDiHost* host) {
     state.localItemCache = new LocalDataItemCache();
     // The effective property clients are given exists from the start; the
     // drawing's own comes at its first demand.
-    state.effectiveProperty = new KyDiEffectiveProperty(new KyDiImpEffectiveProperty());
+    state.effectiveProperty = new KyDiEffectiveProperty(new KyDiImpEffectiveSelectionProperty());
 
     KyDiReflectedClasses::registerAll();
     kyrxBuildClassHierarchy();

@@ -53,6 +53,11 @@ KyDiColorService* KyDiHostAccess::colorService() {
     return current != nullptr ? current->colorService() : nullptr;
 }
 
+KyDiSelectionService* KyDiHostAccess::selectionService() {
+    KyDiHost* current = host();
+    return current != nullptr ? current->selectionService() : nullptr;
+}
+
 KyDiExternalReferenceHost* KyDiHostAccess::xrefHost() {
     return kydiManagerState().xrefHost;
 }

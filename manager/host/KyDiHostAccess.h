@@ -13,6 +13,7 @@ class KyDiHost;
 class KyDiLayerService;
 class KyDiPlotService;
 class KyDiRenderService;
+class KyDiSelectionService;
 class KyDiUcsService;
 class KyDiViewportService;
 class KyDiVisualStyleService;
@@ -31,6 +32,7 @@ public:
     static KyDiLayerService* layerService();
     static KyDiPlotService* plotService();
     static KyDiColorService* colorService();
+    static KyDiSelectionService* selectionService();
     static KyDiExternalReferenceHost* xrefHost();
 
     // The current document: the document manager's answer, except that the
