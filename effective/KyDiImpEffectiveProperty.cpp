@@ -86,6 +86,12 @@ Kyro::ErrorStatus KyDiImpEffectiveProperty::setEntryItem(KyDiEffectiveEntry* ent
     return Kyro::eOk;
 }
 
+Kyro::ErrorStatus KyDiImpEffectiveProperty::missingItemStatus() const {
+    // A key whose tracker finds nothing current reads so every time, not
+    // only while its item is stale.
+    return Kyro::eInvalidInput;
+}
+
 KyDiDocument KyDiImpEffectiveProperty::currentDocument() {
     return KyDiHostAccess::currentDocument();
 }
@@ -128,9 +134,7 @@ Kyro::ErrorStatus KyDiImpEffectiveProperty::getItem(const wchar_t* key, KyDiDyna
         item = nullptr;
         return Kyro::eOk;
     }
-    // A key whose tracker finds nothing current reads so every time, not
-    // only while its item is stale.
-    return item != nullptr ? Kyro::eOk : Kyro::eInvalidInput;
+    return item != nullptr ? Kyro::eOk : missingItemStatus();
 }
 
 Kyro::ErrorStatus KyDiImpEffectiveProperty::setItem(const wchar_t* key, KyDiDynamicObject* item) {

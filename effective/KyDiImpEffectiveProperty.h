@@ -57,6 +57,8 @@ public:
     // Makes `item` current through the key's tracker; eInvalidInput without
     // one. The tracker may only queue the change.
     virtual Kyro::ErrorStatus setEntryItem(KyDiEffectiveEntry* entry, KyDiDynamicObject* item);
+    // What a read answers when it found no item and the values don't vary.
+    virtual Kyro::ErrorStatus missingItemStatus() const;
 
     // The effective item of `key` in the bound document; null when that is
     // not the current document, without a working database, for a key no

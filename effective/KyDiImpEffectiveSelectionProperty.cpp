@@ -80,6 +80,10 @@ void KyDiImpEffectiveSelectionProperty::objectClosed(KyDbObjectId /*id*/) {
     subHostStateChanged();
 }
 
+Kyro::ErrorStatus KyDiImpEffectiveSelectionProperty::missingItemStatus() const {
+    return Kyro::eOk;
+}
+
 bool KyDiImpEffectiveSelectionProperty::readSelection(KyArray<KyDbObjectId>& ids) {
     KyDiSelectionService* selection = KyDiHostAccess::selectionService();
     if (selection == nullptr || !selection->hasSelection()) {

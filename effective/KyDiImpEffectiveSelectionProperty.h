@@ -38,6 +38,9 @@ public:
     KyDiDynamicObject* computeItem(KyDiEffectiveEntry* entry) override;
     Kyro::ErrorStatus getEntryItem(KyDiEffectiveEntry* entry, KyDiDynamicObject*& item) override;
     Kyro::ErrorStatus setEntryItem(KyDiEffectiveEntry* entry, KyDiDynamicObject* item) override;
+    // Success: no item of a selected value, or nothing current with nothing
+    // selected, is still a reading.
+    Kyro::ErrorStatus missingItemStatus() const override;
 
     // What the object reactor tells.
     void objectErased(const KyDbObject* object, bool erasing);

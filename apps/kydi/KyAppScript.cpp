@@ -967,9 +967,15 @@ bool KyAppScript::printEffective(const std::string& key) {
     if (status != Kyro::eOk) {
         return fail(key + " can't be read: " + statusText(status));
     }
-    m_out << key << ' '
-          << (item != nullptr ? KyAppCollectionWatch::itemText(item) : std::string("varies"))
-          << '\n';
+    // No item with success: the selected objects differ, or, with nothing
+    // selected, nothing is current.
+    std::string text;
+    if (item != nullptr) {
+        text = KyAppCollectionWatch::itemText(item);
+    } else {
+        text = m_session.host().selectionService()->hasSelection() ? "varies" : "none";
+    }
+    m_out << key << ' ' << text << '\n';
     return true;
 }
 

@@ -1,20 +1,31 @@
 // KyDiEffectiveProperty: the layer, colour, linetype, lineweight, styles and
-// transparency that apply now: what a new object would get. One object for
-// the process (KyDiManager::getEffectiveProperty); it belongs to the manager.
+// transparency of what is selected, or, with nothing selected, what a new
+// object would get. One object for the process
+// (KyDiManager::getEffectiveProperty); it belongs to the manager.
 //
 // A getter answers the item of the value among the items of its list (the
 // layer's item of the "LAYER" collection, the lineweight's item of the
 // lineweights ...):
 //   eOk with the item;
-//   eOk with a null item when the objects it speaks for differ;
-//   eNotApplicable when no drawing is in front, or before the first refresh
-//     pass saw the drawing that is;
-//   eInvalidInput when nothing is current.
-// A setter makes `item` current the way the user would (a command queued on
-// the host's command line, or a direct write where no command does it), so
-// the getter tells the old value until the host has done it. It answers
-// eInvalidInput for a null item, and the document lock's status when the
-// drawing can't be locked. Reactors hear of changes at the refresh pass.
+//   eOk with a null item when the selected objects differ, or when nothing
+//     is selected and nothing is current;
+//   eNotApplicable when a selected object has no such value (a line has no
+//     dimension style), when no drawing is in front, or before the first
+//     refresh pass saw the drawing that is.
+// The first read after the selection changed opens every selected entity
+// once for all the values that are stale.
+//
+// A setter with nothing selected makes `item` current the way the user would
+// (a command queued on the host's command line, or a direct write where no
+// command does it). With a selection it queues the change-property command a
+// user would type for the selected objects, unless the host leaves all of
+// them alone (on locked layers); a transparency, which no command sets, is
+// written directly to every object selected since the selection was last
+// empty. The getter tells the old value until the host has done it. A setter
+// answers eInvalidInput for a null item, and the document lock's status when
+// the drawing can't be locked. Reactors hear of changes at the refresh pass:
+// a change of the selection, or of a selected object, is one
+// allPropertiesChanged.
 #pragma once
 
 #include "base/KyroErrorStatus.h"

@@ -190,6 +190,10 @@ TEST_F(Program, TheSelectionShowsCommonValuesWritesToAllAndSortsIntoGroups) {
     expectScript("selection_context", 1);
 }
 
+TEST_F(Program, TheEffectiveValuesFollowTheSelectionAndALayerSetBecomesOneCommandForAll) {
+    expectScript("effective_selection", 1);
+}
+
 TEST_F(Program, DocumentsOpenSwitchAndCloseWithTheHostsEvents) {
     expectScript("documents", 0);
     EXPECT_TRUE(fs::exists(folder / "drawing1.kyd"));
