@@ -56,11 +56,18 @@ Kyro::ErrorStatus KyDiHatchCumulativeAreaPropertyBase::areaOf(
 
 Kyro::ErrorStatus KyDiHatchCumulativeAreaPropertyBase::subGetValue(const KyRxObject* object,
                                                                    KyRxValue& value) const {
-    const auto* context = kyrxCast<KyDiSelectionContext>(const_cast<KyRxObject*>(object));
-    if (context == nullptr) {
+    const KyRxValue* boxed = KyRxValue::unbox(object);
+    const KyDiItemArray* const* items = valueCast<KyDiItemArray*>(boxed);
+    if (items == nullptr || *items == nullptr) {
         return Kyro::eNotThatKindOfClass;
     }
-    return const_cast<KyDiSelectionContext*>(context)->cumulativeArea(value);
+    // The items open as the selection's items do: as cells or parts when
+    // that is what is selected.
+    const KyDiSelectionContext* context = KyDiSelectionContext::instance();
+    return areaOf(
+        **items,
+        context != nullptr ? context->kind() : KyDiDataSelectedItemCollectionImp::kPlainObjects,
+        value);
 }
 
 KyDiSelectionContextCumulativeAreaProperty::KyDiSelectionContextCumulativeAreaProperty(

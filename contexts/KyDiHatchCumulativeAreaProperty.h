@@ -18,8 +18,8 @@ public:
 
 protected:
     KyDiHatchCumulativeAreaPropertyBase(const wchar_t* name, const KyRxObject* owner);
-    // Read on the selection context, the area of its selected items; on any
-    // other object eNotThatKindOfClass.
+    // Read on a boxed array of selected items (KyDiItemArray*), the area of
+    // what they stand for; on any other object eNotThatKindOfClass.
     Kyro::ErrorStatus subGetValue(const KyRxObject* object, KyRxValue& value) const override;
 };
 

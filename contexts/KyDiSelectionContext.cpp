@@ -78,10 +78,6 @@ void KyDiSelectionContext::buildMembers(KyRxMemberCollectionBuilder& builder, vo
     builder.add(new KyDiSelectionContextCumulativeAreaProperty(builder.owner()));
 }
 
-Kyro::ErrorStatus KyDiSelectionContext::cumulativeArea(KyRxValue& value) {
-    return KyDiHatchCumulativeAreaPropertyBase::areaOf(items(), kind(), value);
-}
-
 KyDiContext* KyDiSelectionContext::create(const wchar_t* name) {
     return new KyDiSelectionContext(name);
 }
@@ -146,7 +142,7 @@ Kyro::ErrorStatus KyDiSelectionContext::getValue(const KyRxPropertyBase* propert
         return Kyro::eOk;
     }
     const Kyro::ErrorStatus status = SelectionCommonValues::getCommonValue(
-        items(), kind(), property, value, index, key, filter(), m_filteredObjects);
+        items(), kind(), property, value, index, key, filter());
     if (status == Kyro::eOk && kyrxCast<KyRxProperty>(property) != nullptr) {
         m_valueCache[property] = value;
     }
@@ -253,8 +249,10 @@ void KyDiSelectionContext::objectChangedInSelection(KyDbObjectId id) {
             m_modifiedObjects.append(id);
         }
     }
-    notifyChanged(this, nullptr, nullptr);
+    // The values go before anybody is told: a reactor that reads while it is
+    // told reads the objects as they are now.
     m_valueCache.clear();
+    notifyChanged(this, nullptr, nullptr);
 }
 
 void KyDiSelectionContext::narrowClippedViewports() {

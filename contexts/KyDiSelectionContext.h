@@ -49,6 +49,8 @@ public:
     int getItemCount() override;
     KyDiSelectionItem getItem(int index) override;
     KyRxClass* getFilterClass() override { return m_filterClass; }
+    // A filter is set and the last listing of members left one object.
+    bool filtersToOne() const { return m_filterClass != nullptr && m_filteredObjects.size() == 1; }
     KyString getFilterName() override { return m_filterName; }
     bool setFilterClass(KyRxClass* cls) override;
     bool setFilter(KyRxClass* cls, KyString name) override;
@@ -56,8 +58,8 @@ public:
     bool containsOnlyClasses(const KyArray<KyString>& names) override;
     int getAllGroupsFlag() override { return m_allGroupsFlag; }
 
-    // The area the selected hatches cover together ("CumulativeArea").
-    Kyro::ErrorStatus cumulativeArea(KyRxValue& value);
+    // How the selected items open: as objects, sub-entities or cells.
+    SelectionCommonValues::Kind kind() const;
     static void buildMembers(KyRxMemberCollectionBuilder& builder, void* userData);
 
     // The selected items changed: the filter and what was computed go.
@@ -77,7 +79,6 @@ private:
     };
 
     const KyDiItemArray& items() const;
-    SelectionCommonValues::Kind kind() const;
     SelectionCommonValues::Filter filter() const;
     void resetFilter();
     Kyro::ErrorStatus buildGroups();

@@ -22,6 +22,7 @@
 #include "reflection/KyDiMemberQueryContext.h"
 #include "reflection/KyDiValueIterator.h"
 #include "reflection/PropertyWrapping.h"
+#include "rx/KyRxBoxedValue.h"
 #include "rx/KyRxMemberQueryEngine.h"
 #include "rx/KyRxMethod.h"
 #include "rx/KyRxProperty.h"
@@ -271,22 +272,22 @@ bool SelectionCommonValues::hasSelectionAffinity(const KyRxMember* member) {
 Kyro::ErrorStatus SelectionCommonValues::getCommonValue(const KyDiItemArray& items, Kind kind,
                                                         const KyRxPropertyBase* property,
                                                         KyRxValue& value, int index,
-                                                        const wchar_t* key, const Filter& filter,
-                                                        const IdSet& filtered) {
+                                                        const wchar_t* key, const Filter& filter) {
     value = KyRxValue();
-    if (items.length() > 1 && kyrxCast<KyRxCollectionProperty>(hostMember(property)) != nullptr &&
-        !(filter.cls != nullptr && filtered.size() == 1)) {
-        return Kyro::eNotApplicable;
-    }
-    // The context's own members are read on the context: they sum the
-    // selection up.
-    if (const KyRxMember* own = hostMember(property); hasSelectionAffinity(own)) {
-        KyDiSelectionContext* context = KyDiSelectionContext::instance();
-        if (context == nullptr) {
+    if (items.length() > 1 && kyrxCast<KyRxCollectionProperty>(hostMember(property)) != nullptr) {
+        // The one object a filter of the selection left stands for all.
+        const KyDiSelectionContext* context = KyDiSelectionContext::instance();
+        if (context == nullptr || !context->filtersToOne()) {
             return Kyro::eNotApplicable;
         }
+    }
+    // The context's own members sum the selection up: they read the items
+    // themselves, given as one boxed array.
+    if (const KyRxMember* own = hostMember(property); hasSelectionAffinity(own)) {
+        const KyRxValue array(const_cast<KyDiItemArray*>(&items));
+        const KyRxBoxedValueOnStack boxed(array);
         const Kyro::ErrorStatus status =
-            static_cast<const KyRxProperty*>(own)->getValue(context, value);
+            static_cast<const KyRxProperty*>(own)->getValue(&boxed, value);
         if (status == Kyro::eOk && !value.isEmpty() && !value.isVaries()) {
             KyDiConvertToDataItem(value);
         }
@@ -439,7 +440,7 @@ Kyro::ErrorStatus KyDiGetCommonValue(const KyDiItemArray& list, const KyRxProper
         return Kyro::eInvalidInput;
     }
     return SelectionCommonValues::getCommonValue(list, Kind::kPlainObjects, property, value, -1,
-                                                 nullptr, Filter(), SelectionCommonValues::IdSet());
+                                                 nullptr, Filter());
 }
 
 bool hasTableSubSelection() {

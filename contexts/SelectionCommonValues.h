@@ -41,11 +41,11 @@ public:
     // The value the counted objects agree on, "varies" at the first that
     // differs (or that reports a value of its own that varies); empty when
     // none counts. A collection member is read for one object only:
-    // eNotApplicable with several items, unless `filtered` holds exactly one.
+    // eNotApplicable with several items, unless the selection context's
+    // filter left exactly one object at its last listing of members.
     static Kyro::ErrorStatus getCommonValue(const KyDiItemArray& items, Kind kind,
                                             const KyRxPropertyBase* property, KyRxValue& value,
-                                            int index, const wchar_t* key, const Filter& filter,
-                                            const IdSet& filtered);
+                                            int index, const wchar_t* key, const Filter& filter);
     // Writes `value` to every counted object, under one document lock; the
     // objects written before a failure stay written. `classChanged` is set
     // when a write changed an object's "ClassName".

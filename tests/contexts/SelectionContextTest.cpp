@@ -5,6 +5,7 @@
 // PROPOBJLIMIT.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <set>
 
@@ -12,6 +13,7 @@
 #include "KyRefSelectionService.h"
 #include "contexts/ManagerSpy.h"
 #include "db/KyCmColor.h"
+#include "db/KyDbBlockReference.h"
 #include "db/KyDbCircle.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbEntity.h"
@@ -22,6 +24,7 @@
 #include "kydi/IKyDiSelectionItemProvider.h"
 #include "kydi/KyDiContext.h"
 #include "kydi/KyDiContextManager.h"
+#include "kydi/KyDiDynamicObjectReactor.h"
 #include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiObservableCollection.h"
 #include "manager/RefHostFixture.h"
@@ -187,8 +190,76 @@ TEST_F(SelectionContext, TwoHatchesAddUpTheAreaTheyCoverAndAHatchWithALineDoesNo
     const KyRxValue area = read(L"CumulativeArea");
     ASSERT_NE(valueCast<double>(&area), nullptr);
     EXPECT_DOUBLE_EQ(*valueCast<double>(&area), 14900000.0);
+    // Read on any list of hatches, as its one boxed array.
+    const KyDiItemArray& hatches =
+        KyDiManager::getKnownCollection(L"KYDI_DATAITEM_SELECTED_ITEMS")->getItems();
+    KyDiItemArray rugOnly;
+    rugOnly.append(hatches[1]);
+    KyRxValue value;
+    ASSERT_EQ(KyDiGetCommonValue(rugOnly, property(L"CumulativeArea"), value), Kyro::eOk);
+    EXPECT_LT(*valueCast<double>(&value), 14900000.0);
+    EXPECT_GT(*valueCast<double>(&value), 0.0);
+    // Not on the context itself, nor on an empty list.
+    const auto* own = kyrxCast<KyRxProperty>(
+        KyRxMemberQueryEngine::theEngine()->find(context, L"CumulativeArea"));
+    ASSERT_NE(own, nullptr);
+    EXPECT_EQ(own->getValue(context, value), Kyro::eNotThatKindOfClass);
+    EXPECT_EQ(KyDiGetCommonValue(KyDiItemArray(), property(L"CumulativeArea"), value),
+              Kyro::eNotApplicable);
+
     select({L"5E", L"4B"});
     EXPECT_FALSE(members().contains("CumulativeArea"));
+}
+
+TEST_F(SelectionContext, ACollectionIsReadForTheOneObjectTheLastListingUnderAFilterLeft) {
+    select({L"58", L"4B"});
+    const KyDiItemArray& selected =
+        KyDiManager::getKnownCollection(L"KYDI_DATAITEM_SELECTED_ITEMS")->getItems();
+    const KyRxPropertyBase* attributes = nullptr;
+    {
+        KyDbObjectPointer<KyDbObject> reference(object(L"58"), KyDb::kForRead);
+        attributes = kyrxCast<KyRxPropertyBase>(
+            KyRxMemberQueryEngine::theEngine()->find(reference.object(), L"Attributes"));
+    }
+    ASSERT_NE(attributes, nullptr);
+    KyRxValue value;
+    EXPECT_EQ(KyDiGetCommonValue(selected, attributes, value), Kyro::eNotApplicable)
+        << "two objects";
+    ASSERT_TRUE(kinds->setFilterClass(KyDbBlockReference::desc()));
+    EXPECT_EQ(KyDiGetCommonValue(selected, attributes, value), Kyro::eNotApplicable)
+        << "no listing under the filter yet";
+    EXPECT_TRUE(members().contains("Attributes"));
+    EXPECT_NE(KyDiGetCommonValue(selected, attributes, value), Kyro::eNotApplicable)
+        << "the listing left one object";
+    ASSERT_TRUE(kinds->setFilterClass(KyDbBlockReference::desc()));
+    EXPECT_EQ(KyDiGetCommonValue(selected, attributes, value), Kyro::eNotApplicable)
+        << "a new filter forgets what the last listing left";
+}
+
+TEST_F(SelectionContext, AReactorToldOfAWriteReadsTheWrittenValue) {
+    select({L"4B", L"4C"});
+    const KyRxValue before = read(L"Color");
+    // Reads the colour while it is told.
+    class Reader : public KyDiDynamicObjectReactor {
+    public:
+        explicit Reader(std::function<std::string()> readColor)
+            : m_readColor(std::move(readColor)) {}
+        void changed(KyDiDynamicObject*, const wchar_t*, void*) override {
+            seen.push_back(m_readColor());
+        }
+        std::vector<std::string> seen;
+
+    private:
+        std::function<std::string()> m_readColor;
+    } reader([this] { return read(L"Color").text().utf8(); });
+    context->addReactor(&reader);
+    ASSERT_EQ(property(L"Color")->setValue(context, KyRxValue(colorIndex(3))), Kyro::eOk);
+    KyDiManager::refresh();
+    context->removeReactor(&reader);
+    ASSERT_FALSE(reader.seen.empty());
+    for (const std::string& seen : reader.seen) {
+        EXPECT_NE(seen, before.text().utf8()) << "a stale value was read while told";
+    }
 }
 
 TEST_F(SelectionContext, TheFreeFunctionsReadCommonValuesAndTellCellsApart) {
