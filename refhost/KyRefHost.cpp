@@ -6,6 +6,7 @@
 #include "KyRefReadAccess.h"
 #include "KyRefSysVarTable.h"
 #include "KyRefVariablesDictionary.h"
+#include "KyRefViewStyleModule.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbLayout.h"
@@ -42,6 +43,8 @@ KyRefHost::KyRefHost(const KyRefHostOptions& options)
       m_variables(std::make_unique<KyRefVariablesDictionary>(*this)) {
     KyRxVariablesDictionary::install(m_variables.get());
     KyRefHostApplicationServices::install();
+    // Known from the start, loaded only when a client asks for it.
+    KyRefViewStyleModule::registerModule();
 }
 
 KyRefHost::~KyRefHost() {

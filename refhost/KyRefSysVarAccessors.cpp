@@ -15,6 +15,7 @@
 #include "db/KyDbDatabase.h"
 #include "db/KyDbDictionary.h"
 #include "db/KyDbDictionaryIterator.h"
+#include "db/KyDbHostApplicationServices.h"
 #include "db/KyDbLayerTableRecord.h"
 #include "db/KyDbLayout.h"
 #include "db/KyDbScale.h"
@@ -151,6 +152,18 @@ Status getShadow(const Access& access, KyRefResbufPtr& out) {
 Status setShadow(const Access& access, const resbuf& value, KyString& error) {
     return fromDatabase(
         access.database->setCshadow(static_cast<KyDb::ShadowFlags>(value.resval.rint)), error);
+}
+
+// The platform's units of lineweights: 0 inches, anything else millimetres,
+// which the variable shows as 1.
+Status getLineweightUnits(const Access&, KyRefResbufPtr& out) {
+    out = KyRefResbuf::makeShort(gLineWeightUnits == 0 ? 0 : 1);
+    return Status::kOk;
+}
+
+Status setLineweightUnits(const Access&, const resbuf& value, KyString&) {
+    gLineWeightUnits = value.resval.rint;
+    return Status::kOk;
 }
 
 // Model space shows in the tiled viewport 2; a layout shows its paper space
@@ -319,6 +332,7 @@ const KyRefSysVarAccessor kColor{getColor, nullptr, setColor};
 const KyRefSysVarAccessor kTransparency{getTransparency, nullptr, setTransparency};
 const KyRefSysVarAccessor kLineweight{getLineweight, nullptr, setLineweight};
 const KyRefSysVarAccessor kShadow{getShadow, nullptr, setShadow};
+const KyRefSysVarAccessor kLineweightUnits{getLineweightUnits, nullptr, setLineweightUnits};
 const KyRefSysVarAccessor kTileMode{getTileMode, nullptr, setTileMode};
 const KyRefSysVarAccessor kPlotStyleMode{getPlotStyleMode, nullptr, nullptr};
 

@@ -32,6 +32,10 @@ extern const KyRefSysVarAccessor kPlotStyleMode;
 extern const KyRefSysVarAccessor kAnnotationScale;
 extern const KyRefSysVarAccessor kPlotStyle;
 
+// A setting of the platform that the host keeps for the session: the units
+// lineweights are shown and typed in (gLineWeightUnits).
+extern const KyRefSysVarAccessor kLineweightUnits;
+
 // The current layout: switching it changes the space shown.
 extern const KyRefSysVarAccessor kLayout;
 // The current viewport (CVPORT): read as the layout shows it, written only

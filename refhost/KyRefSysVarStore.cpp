@@ -232,6 +232,11 @@ KyRxValue toHeader(const resbuf& value) {
     }
 }
 
+// A variable whose accessor reads and writes it where it lives.
+bool keptByAccessor(const KyRefSysVarRow& row) {
+    return row.accessor != nullptr && row.accessor->get != nullptr && row.accessor->set != nullptr;
+}
+
 KyRefResbufPtr initialValue(const KyRefSysVarRow& row) {
     KyRefResbufPtr value;
     KyRefSysVarStore::parse(row, row.initial, value);
@@ -528,12 +533,27 @@ KyRefSysVarStore::SessionValues KyRefSysVarStore::sessionValues() const {
     for (const auto& [row, value] : m_session) {
         values.emplace(row, KyRefResbuf::copy(*value));
     }
+    // A session variable that its accessor keeps elsewhere (a setting of the
+    // platform) is taken as it reads now.
+    for (const KyRefSysVarRow& row : KyRefSysVarTable::rows()) {
+        if (!row.isDrawing() && keptByAccessor(row)) {
+            KyRefResbufPtr value;
+            if (read(row, nullptr, value) == Status::kOk) {
+                values.emplace(&row, std::move(value));
+            }
+        }
+    }
     return values;
 }
 
 void KyRefSysVarStore::restoreSessionValues(const SessionValues& values) {
     m_session.clear();
     for (const auto& [row, value] : values) {
-        m_session.emplace(row, KyRefResbuf::copy(*value));
+        if (keptByAccessor(*row)) {
+            KyString error;
+            row->accessor->set(KyRefSysVarAccess{*row, nullptr, this}, *value, error);
+        } else {
+            m_session.emplace(row, KyRefResbuf::copy(*value));
+        }
     }
 }

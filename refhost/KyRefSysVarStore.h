@@ -1,7 +1,9 @@
 // KyRefSysVarStore: the reference host's system variables, typed by the rows
 // of KyRefSysVarTable. Drawing variables are read from and written to the
 // current document's database (its header, or the typed accessors of the
-// database for the current layer, colour ...); session variables live here.
+// database for the current layer, colour ...); session variables live here,
+// but for those whose accessor keeps them elsewhere (LWEIGHTUNITS, a setting
+// of the platform).
 // Names compare without regard to case.
 //
 // The rows are those of KyRefSysVarTable. Writes are checked against the row: the type (integers
@@ -31,7 +33,8 @@ public:
     // The values of every reported variable at one moment, to tell later
     // what changed. A variable that could not be read holds null.
     using Snapshot = std::vector<std::pair<const KyRefSysVarRow*, KyRefResbufPtr>>;
-    // The session values written so far, to put them back.
+    // The session values written so far, and those kept elsewhere as they
+    // are, to put them back.
     using SessionValues = std::map<const KyRefSysVarRow*, KyRefResbufPtr>;
 
     // `host` answers the current document and the computed variables; a store

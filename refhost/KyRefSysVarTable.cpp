@@ -174,6 +174,8 @@ const KyRefSysVarRow kRows[] = {
     {L"OSMODE", kShort, kSession, L"0", 0, 16383},
     {L"LASTPOINT", kPoint3d, kSession, L"0,0,0"},
     {L"VIEWRES", kLong, kSession, L"1000", 1, 20000},
+    // The units lineweights are shown and typed in: 0 inches, 1 millimetres.
+    {L"LWEIGHTUNITS", kShort, kSession, L"1", 0, 1, 0, nullptr, &Acc::kLineweightUnits},
     // Whether the drawing window shows its navigation box (1) or not (0).
     {L"NAVBOX", kShort, kSession, L"1", 0, 1},
 };

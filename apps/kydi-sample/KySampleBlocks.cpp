@@ -313,9 +313,23 @@ void KySampleBlocks::addLater(KyRefJson& drawing, KySampleHandles& handles) {
     rug["loops"] = Json::array(
         {Json::array({{6500.0, 4000.0}, {8500.0, 4000.0}, {8500.0, 4800.0}, {6500.0, 4800.0}})});
     rug["color"] = 30;
+    // A section through the whole house, and a detail of the kitchen's
+    // column, each in one of the sample's view styles.
+    Json section = entity(handles, "VIEWCALLOUT", "Dimensions");
+    section["kind"] = "section";
+    section["style"] = "Standard";
+    section["points"] = Json::array({{-500.0, 2000.0}, {10500.0, 2000.0}});
+    section["label"] = "A";
+    Json detail = entity(handles, "VIEWCALLOUT", "Dimensions");
+    detail["kind"] = "detail";
+    detail["style"] = "Metric";
+    detail["points"] = Json::array({{7250.0, 4750.0}, {7750.0, 4750.0}});
+    detail["label"] = "B";
     for (Json& block : drawing["blocks"]) {
         if (block["name"] == "*Model_Space") {
             block["entities"].push_back(std::move(rug));
+            block["entities"].push_back(std::move(section));
+            block["entities"].push_back(std::move(detail));
             return;
         }
     }

@@ -4,7 +4,8 @@
 // attributes, a dimension's picture and an external reference. Two hatches
 // on layer "Hatch" overlap: the tiled floor of the kitchen and a solid rug
 // that lies partly over the floor's hole, so the area they cover together is
-// less than the sum of their areas.
+// less than the sum of their areas. A section callout and a detail callout on
+// layer "Dimensions" are drawn in different view styles.
 #pragma once
 
 #include "io/KyRefJson.h"

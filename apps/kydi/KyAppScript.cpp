@@ -50,6 +50,8 @@
 #include "kydi/KyDiSysVar.h"
 #include "kydi/KyDiValueTypes.h"
 #include "rx/KyRxClass.h"
+#include "rx/KyRxDictionary.h"
+#include "rx/KyRxDynamicLinker.h"
 #include "rx/KyRxMemberQueryEngine.h"
 #include "rx/KyRxProperty.h"
 #include "rx/KyRxStandardAttributes.h"
@@ -154,6 +156,7 @@ std::span<const KyAppScript::Row> KyAppScript::rows() {
         {"answer", 2, 2, "answer turnon yes|no", &Script::answer},
         {"sysvar", 1, 2, "sysvar NAME [VALUE]", &Script::sysvar},
         {"language", 1, 1, "language CODE", &Script::language},
+        {"module", 2, 2, "module load|unload NAME", &Script::module},
         {"members", 1, 1, "members HANDLE", &Script::members},
         {"collections", 0, 0, "collections", &Script::collections},
         {"items", 1, 1, "items COLLECTION", &Script::collectionStatement},
@@ -631,6 +634,28 @@ bool KyAppScript::language(const KyAppStatement& statement) {
         return fail("the platform has no texts in " + statement.words[0].text);
     }
     KyRxResourceInstance::setLanguage(code);
+    return true;
+}
+
+bool KyAppScript::module(const KyAppStatement& statement) {
+    const std::string& action = statement.words[0].text;
+    if (action != "load" && action != "unload") {
+        return fail("usage: module load|unload NAME");
+    }
+    const std::string& name = statement.words[1].text;
+    const KyString wideName = KyString::fromUtf8(name);
+    const auto* linker = kyrxCast<KyRxDynamicLinker>(kyrxSysRegistry()->at(KYRX_DYNAMIC_LINKER));
+    if (linker == nullptr || !linker->isModuleRegistered(wideName)) {
+        return fail("the host has no module " + name);
+    }
+    if (action == "load" && !kyrxLoadModule(wideName, false)) {
+        return fail("the module " + name + " refused to start");
+    }
+    if (action == "unload") {
+        kyrxUnloadModule(wideName);
+    }
+    m_out << "module " << name << (linker->isModuleLoaded(wideName) ? " loaded" : " not loaded")
+          << '\n';
     return true;
 }
 

@@ -24,6 +24,8 @@
 //                      turn an off current layer on
 //   sysvar NAME [VALUE]
 //   language CODE      the platform's texts: "base" or a language of its texts ("de")
+//   module load|unload NAME  loads or unloads a module the host made known
+//                      ("KYSYNERGYOBJ"), and prints whether it is loaded
 //   members HANDLE     the members of a drawing object as a palette sees them
 //   collections        the names of the known collections: built, can be made, or not
 //                      available in this build
@@ -137,6 +139,7 @@ private:
     bool watch(const KyAppStatement& statement);
     bool sysvar(const KyAppStatement& statement);
     bool language(const KyAppStatement& statement);
+    bool module(const KyAppStatement& statement);
     bool members(const KyAppStatement& statement);
     bool collections(const KyAppStatement& statement);
     bool collectionStatement(const KyAppStatement& statement);

@@ -62,6 +62,7 @@
 #include "db/KyDbUnknownEntity.h"
 #include "db/KyDbUnknownObject.h"
 #include "db/KyDbVertexPart.h"
+#include "db/KyDbViewCallout.h"
 #include "db/KyDbViewTable.h"
 #include "db/KyDbViewTableRecord.h"
 #include "db/KyDbViewport.h"
@@ -115,6 +116,7 @@ void kyrxRegisterDatabaseClasses() {
         &KyDbRegion::desc,
         &KyDbTable::desc,
         &KyDbTableCellSelection::desc,
+        &KyDbViewCallout::desc,
         &KyDbUnknownEntity::desc,
         &KyDbDictionary::desc,
         &KyDbDictionaryWithDefault::desc,

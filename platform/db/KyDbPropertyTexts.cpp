@@ -116,6 +116,9 @@ const TextRow kPropertyTexts[] = {
     {L"TableStyleId", 9701},
     {L"Rows", 9702},
     {L"Columns", 9703},
+    {L"CalloutKind", 9704},
+    {L"ViewStyleId", 9705},
+    {L"Label", 9706},
 };
 
 // Local names of the database classes, by class name.
@@ -181,6 +184,7 @@ const TextRow kClassTexts[] = {
     {L"KyDbRegion", 9658},
     {L"KyDbTable", 9659},
     {L"KyDbTableCellSelection", 9660},
+    {L"KyDbViewCallout", 9661},
     // The parts of entities that a selection names (KyDbEntityPart).
     {L"KyDbFacePart", 9690},
     {L"KyDbEdgePart", 9691},

@@ -88,6 +88,10 @@ bool KyRxDynamicLinker::isModuleLoaded(const wchar_t* name) const {
     return module != nullptr && module->loaded;
 }
 
+bool KyRxDynamicLinker::isModuleRegistered(const wchar_t* name) const {
+    return findModule(name) != nullptr;
+}
+
 void* KyRxDynamicLinker::getSymbolAddress(const wchar_t* module, const wchar_t* symbol) const {
     const ModuleEntry* entry = findModule(module);
     if (entry == nullptr || !entry->loaded || symbol == nullptr ||

@@ -39,6 +39,8 @@ public:
     bool loadModule(const wchar_t* name, bool printErrors, bool asCommand = false);
     bool unloadModule(const wchar_t* name);
     bool isModuleLoaded(const wchar_t* name) const;
+    // True for a module made known by kyrxRegisterModule, loaded or not.
+    bool isModuleRegistered(const wchar_t* name) const;
     // The address of a symbol of a loaded module; null otherwise.
     void* getSymbolAddress(const wchar_t* module, const wchar_t* symbol) const;
 };

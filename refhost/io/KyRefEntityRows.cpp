@@ -31,6 +31,7 @@
 #include "db/KyDbText.h"
 #include "db/KyDbUnknownEntity.h"
 #include "db/KyDbUnknownObject.h"
+#include "db/KyDbViewCallout.h"
 #include "db/KyDbViewport.h"
 #include "db/KyDbVisualStyle.h"
 #include "rx/KyRxClass.h"
@@ -97,6 +98,8 @@ const KyRefMemberList kDimensionMembers{kCommon,
                                          {"formulas", "{}"}}};
 const KyRefMemberList kLeaderMembers{kCommon, {{"points"}, {"dimStyle", "\"Standard\""}}};
 const KyRefMemberList kMLeaderMembers{kCommon, {{"style"}, {"points"}, {"text", "\"\""}}};
+const KyRefMemberList kViewCalloutMembers{kCommon,
+                                          {{"kind"}, {"style"}, {"points"}, {"label", "\"\""}}};
 const KyRefMemberList kHatchMembers{kCommon, {{"pattern", "\"SOLID\""}, {"loops"}}};
 const KyRefMemberList kViewportMembers{kCommon,
                                        {{"center", nullptr, true},
@@ -467,6 +470,43 @@ void writeMLeader(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJso
     out["text"] = kyrefUtf8(leader.contents());
 }
 
+// ---- View callouts
+
+// The words of the kinds of callout, in the order of KyDbViewCallout::Kind.
+constexpr const char* kCalloutKinds[] = {"section", "detail"};
+
+KyDbEntity* readViewCallout(KyRefReadContext& context, const KyRefJsonNode& node) {
+    auto callout = std::make_unique<KyDbViewCallout>();
+    const KyRefJsonNode kindNode = node.required("kind", "\"section\" or \"detail\"");
+    const std::string word = kindNode.asString();
+    const int kind = word == kCalloutKinds[0]   ? KyDbViewCallout::kSection
+                     : word == kCalloutKinds[1] ? KyDbViewCallout::kDetail
+                                                : 0;
+    if (kind == 0) {
+        kindNode.fail("expected \"section\" or \"detail\", found \"" + word + "\"");
+    }
+    callout->setKind(kind);
+    const char* what =
+        kind == KyDbViewCallout::kSection ? "section view style" : "detail view style";
+    const std::string expected = std::string("the name of a ") + what;
+    const KyRefJsonNode style = node.required("style", expected.c_str());
+    Check::check(callout->setViewStyle(context.entry(
+                     KyDbViewCallout::styleDictionaryId(context.database(), kind), style, what)),
+                 style, expected.c_str());
+    requiredPoints(node, "points",
+                   [&](const KyArray<KyGePoint3d>& points) { return callout->setPoints(points); });
+    callout->setLabel(node.text("label", L""));
+    return callout.release();
+}
+
+void writeViewCallout(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& out) {
+    const auto& callout = static_cast<const KyDbViewCallout&>(entity);
+    out["kind"] = kCalloutKinds[callout.kind() == KyDbViewCallout::kDetail ? 1 : 0];
+    out["style"] = context.entryKey(callout.viewStyle());
+    out["points"] = Forms::points(callout.points());
+    out["label"] = kyrefUtf8(callout.label());
+}
+
 // ---- Viewports
 
 KyDbEntity* readViewport(KyRefReadContext& context, const KyRefJsonNode& node) {
@@ -705,6 +745,8 @@ const KyRefEntityRow kRows[] = {
     {"HATCH", &classOf<KyDbHatch>, &kHatchMembers, &readHatch, nullptr, &writeHatch},
     {"IMAGE", nullptr, &kCommon, &checkImage, nullptr, nullptr},
     {"TABLE", &classOf<KyDbTable>, &kTableMembers, &readTable, nullptr, &writeTable},
+    {"VIEWCALLOUT", &classOf<KyDbViewCallout>, &kViewCalloutMembers, &readViewCallout, nullptr,
+     &writeViewCallout},
     {"POINTCLOUD", nullptr, &kCommon, &checkPointCloud, nullptr, nullptr},
 };
 

@@ -208,6 +208,10 @@ TEST_F(Program, TheManualClockHoldsRefreshesBackUntilItMovesPastTheThrottle) {
     expectScript("clock", 0);
 }
 
+TEST_F(Program, TheHostsViewStyleModuleLoadsAndUnloadsByNameAndUnknownNamesAreRefused) {
+    expectScript("modules", 1);
+}
+
 TEST_F(Program, AScriptReadsFromStandardInput) {
     const Outcome outcome = kydi("run - <<'EOF'\nsysvar CLAYER\necho \"two  blanks\"\nEOF");
     EXPECT_EQ(outcome.out, "CLAYER Walls\n\"two  blanks\"\n");

@@ -144,6 +144,33 @@ TEST_F(ChPropCommandTest, LineweightsAreReadInTheUnitsTheyAreShownIn) {
     }
 }
 
+// LWEIGHTUNITS, typed as a user types it, says which units the widths that
+// CHPROP reads are in; values other than 0 and 1 are refused as the table
+// refuses any number out of its range.
+TEST_F(ChPropCommandTest, TheLineweightUnitsVariableSaysHowAWidthIsRead) {
+    EXPECT_EQ(getShort(L"LWEIGHTUNITS"), 1) << "millimetres, as the platform starts";
+    run(L"LWEIGHTUNITS\n0\n");
+    EXPECT_EQ(gLineWeightUnits, 0);
+    EXPECT_EQ(spy.take(), (Lines{"commandWillStart LWEIGHTUNITS", "sysVarChanged LWEIGHTUNITS true",
+                                 "commandEnded LWEIGHTUNITS", "refreshNeeded false"}));
+    runToEnd(L"_chprop\n_lweight\n0.010\n\n");
+    EXPECT_EQ(weightOf(first), KyDb::kLnWt025) << "0.010 inches";
+
+    takeLog();
+    run(L"LWEIGHTUNITS\n2\n-1\nmm\n1\n");
+    EXPECT_EQ(
+        takeLog(),
+        (Lines{"Command: LWEIGHTUNITS", "Enter new value for LWEIGHTUNITS <0>: 2",
+               "Requires an integer between 0 and 1.", "Enter new value for LWEIGHTUNITS <0>: -1",
+               "Requires an integer between 0 and 1.", "Enter new value for LWEIGHTUNITS <0>: mm",
+               "Requires an integer between 0 and 1.", "Enter new value for LWEIGHTUNITS <0>: 1"}));
+    EXPECT_EQ(gLineWeightUnits, 1);
+    runToEnd(L"_chprop\n_lweight\n0.010\n\n");
+    EXPECT_EQ(weightOf(first), KyDb::kLnWt000) << "0.010 millimetres: the nearest is 0.00 mm";
+    runToEnd(L"_chprop\n_lweight\n0.53\n\n");
+    EXPECT_EQ(weightOf(first), KyDb::kLnWt053);
+}
+
 TEST_F(ChPropCommandTest, SeveralPropertiesChangeInOneCommand) {
     runToEnd(L"_chprop\n_ltype\nDashed\n_ltscale\n2.5\n_transparency\n40\n_material\nGlobal\n\n");
     const KyDbObjectPointer<KyDbEntity> entity = read(second);

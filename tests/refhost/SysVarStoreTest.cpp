@@ -7,6 +7,7 @@
 #include "base/KyRxResourceInstance.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
+#include "db/KyDbHostApplicationServices.h"
 #include "rx/KyRxVariablesDictionary.h"
 
 namespace refhost {
@@ -157,6 +158,27 @@ TEST_F(SysVarStoreTest, SetVarRefusesUnknownReadOnlyOutOfRangeAndWrongType) {
     EXPECT_EQ(setShort(L"LTSCALE", 2), KYRT_NORM) << "an integer for a real";
     EXPECT_EQ(getShort(L"LUPREC"), 8);
     EXPECT_EQ(db()->celweight(), KyDb::kLnWt025);
+}
+
+// LWEIGHTUNITS is the platform's setting, not a value of the store: a write
+// sets gLineWeightUnits, a write of the platform shows in a read, and the
+// session values a cancelled command puts back include it.
+TEST_F(SysVarStoreTest, TheLineweightUnitsAreThePlatformsSetting) {
+    EXPECT_EQ(setShort(L"LWEIGHTUNITS", 2), KYRT_REJECTED);
+    EXPECT_EQ(setShort(L"LWEIGHTUNITS", -1), KYRT_REJECTED);
+    EXPECT_EQ(setString(L"LWEIGHTUNITS", L"0"), KYRT_REJECTED);
+    EXPECT_EQ(gLineWeightUnits, 1);
+    spy.take();
+    const KyRefSysVarStore::SessionValues before = host->sysVars().sessionValues();
+    EXPECT_EQ(setShort(L"lweightunits", 0), KYRT_NORM) << "a session variable needs no lock";
+    EXPECT_EQ(gLineWeightUnits, 0);
+    EXPECT_EQ(spy.take(),
+              (Lines{"sysVarWillChange LWEIGHTUNITS", "sysVarChanged LWEIGHTUNITS true"}));
+    host->sysVars().restoreSessionValues(before);
+    EXPECT_EQ(gLineWeightUnits, 1);
+    gLineWeightUnits = 0;
+    EXPECT_EQ(getShort(L"LWEIGHTUNITS"), 0);
+    gLineWeightUnits = 1;
 }
 
 TEST_F(SysVarStoreTest, ADrawingVariableNeedsADrawingAndItsLock) {

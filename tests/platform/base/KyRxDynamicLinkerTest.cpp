@@ -92,6 +92,7 @@ TEST_F(BaseDynamicLinker, ARefusedStartLeavesTheModuleUnloaded) {
     EXPECT_EQ(nullptr, linker()->getSymbolAddress(L"KyRefuses.dbx", L"theAnswer"));
     EXPECT_FALSE(kyrxUnloadModule(L"KyRefuses.dbx"));
     EXPECT_EQ(0, g_stops);
+    EXPECT_TRUE(linker()->isModuleRegistered(L"kyrefuses.DBX")) << "known, though not loaded";
 }
 
 TEST_F(BaseDynamicLinker, UnknownModulesAreNotLoadedAndSayWhyOnlyWhenAsked) {
@@ -103,6 +104,8 @@ TEST_F(BaseDynamicLinker, UnknownModulesAreNotLoadedAndSayWhyOnlyWhenAsked) {
     EXPECT_NE(std::string::npos,
               testing::internal::GetCapturedStderr().find("KyDbPointCloudObj.dbx"));
     EXPECT_FALSE(kyrxLoadModule(nullptr, false));
+    EXPECT_FALSE(linker()->isModuleRegistered(L"KyDbPointCloudObj.dbx"));
+    EXPECT_FALSE(linker()->isModuleRegistered(nullptr));
 }
 
 TEST_F(BaseDynamicLinker, ARegistrationReplacesTheDescriptorOfAModuleNotLoaded) {
