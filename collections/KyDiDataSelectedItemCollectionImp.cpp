@@ -40,14 +40,11 @@ void KyDiDataSelectedItemCollectionImp::subDetach(KyDbObject* closing) {
 }
 
 void KyDiDataSelectedItemCollectionImp::subSelectionRefreshed(const std::set<KyDiDbItem*>& erased) {
-    for (int i = 0; i < items.length();) {
-        auto* record = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(items[i]));
-        if (record != nullptr && erased.contains(record)) {
-            items.removeAt(i);
-        } else {
-            ++i;
-        }
-    }
+    // An erased object leaves the selection, told as any removal is.
+    removeItems([&erased](KyDiDynamicObject* item) {
+        auto* record = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(item));
+        return record != nullptr && erased.contains(record);
+    });
 }
 
 bool KyDiDataSelectedItemCollectionImp::isListableSelectedObject(KyDbObjectId id) {

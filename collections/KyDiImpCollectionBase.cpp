@@ -154,6 +154,30 @@ void KyDiImpCollectionBase::update() {
     }
 }
 
+void KyDiImpCollectionBase::removeItems(const std::function<bool(KyDiDynamicObject*)>& leaves) {
+    KyDiItemArray removed(0, 8);
+    for (int i = 0; i < items.length();) {
+        if (leaves(items[i])) {
+            removed.append(items[i]);
+            items.removeAt(i);
+        } else {
+            ++i;
+        }
+    }
+    if (removed.isEmpty()) {
+        return;
+    }
+    KyDiItemArray none(0, 8);
+    KyDiItemArray unchanged(0, 8);
+    subApplyItemChanges(none, removed, unchanged);
+    ++s_updatesRunning;
+    tellReactors(0, none, removed, unchanged);
+    --s_updatesRunning;
+    for (int i = 0; i < removed.length(); ++i) {
+        DataItemOwnership::disposeDataItem(removed[i]);
+    }
+}
+
 void KyDiImpCollectionBase::tellReactors(unsigned bits, const KyDiItemArray& added,
                                          const KyDiItemArray& removed,
                                          const KyDiItemArray& modified) {

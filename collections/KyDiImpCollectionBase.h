@@ -12,6 +12,8 @@
 // document and resets from it.
 #pragma once
 
+#include <functional>
+
 #include <map>
 #include <set>
 
@@ -129,6 +131,11 @@ protected:
     // The merge of collections whose fills make new items: matched by display
     // name, the old item stays and the new one is given up.
     void mergeByName(KyDiItemArray& added, KyDiItemArray& removed, KyDiItemArray& newItems);
+
+    // Takes the items for which `leaves` answers true out of the list, out
+    // of hearing, and tells the reactors of their removal, as an update
+    // would.
+    void removeItems(const std::function<bool(KyDiDynamicObject*)>& leaves);
 
     void setPending(unsigned flags) { m_pendingFlags |= flags; }
     void clearPending(unsigned flags) { m_pendingFlags &= ~flags; }

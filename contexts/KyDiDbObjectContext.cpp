@@ -9,6 +9,8 @@
 #include "manager/KyDiReflectedClasses.h"
 #include "manager/host/KyDiHostAccess.h"
 #include "reflection/DbValueAccess.h"
+#include "rx/KyRxMemberQueryEngine.h"
+#include "rx/KyRxProperty.h"
 
 KYDI_DEFINE_CLASS_MEMBERS(KyDiDbObjectContext, kDbObjectContext)
 
@@ -75,14 +77,31 @@ KyRxMemberIterator* KyDiDbObjectContext::subNewMemberIterator() {
     return newFilteredMemberIterator(object.object());
 }
 
+bool KyDiDbObjectContext::resolves(const KyRxPropertyBase* property) const {
+    // A member listed for another object (before the context was bound anew)
+    // is no member of this one.
+    KyDbObjectPointer<KyDbObject> object(m_objectId, KyDb::kForRead, true);
+    if (object.openStatus() != Kyro::eOk || property == nullptr) {
+        return object.openStatus() != Kyro::eOk;  // the open's failure is told by the access
+    }
+    KyRxMemberQueryEngine* engine = KyRxMemberQueryEngine::theEngine();
+    return engine->find(object.object(), property->name(), engine->promotingContext()) != nullptr;
+}
+
 Kyro::ErrorStatus KyDiDbObjectContext::getValue(const KyRxPropertyBase* property, KyRxValue& value,
                                                 int index, const wchar_t* key) {
+    if (!resolves(property)) {
+        return Kyro::eInvalidInput;
+    }
     return DbValueAccess::readDbValue(m_objectId, property, value, index, key);
 }
 
 Kyro::ErrorStatus KyDiDbObjectContext::setValue(const KyRxPropertyBase* property,
                                                 const KyRxValue& value, int index,
                                                 const wchar_t* key) {
+    if (!resolves(property)) {
+        return Kyro::eInvalidInput;
+    }
     if (value.isVaries()) {
         return DbValueAccess::writeDbValueInPlace(m_objectId, property, value, index, key);
     }

@@ -61,13 +61,13 @@ Kyro::ErrorStatus KyDiHatchCumulativeAreaPropertyBase::subGetValue(const KyRxObj
     if (items == nullptr || *items == nullptr) {
         return Kyro::eNotThatKindOfClass;
     }
-    // The items open as the selection's items do: as cells or parts when
-    // that is what is selected.
+    // The selection's own items open as the selection does (as cells or
+    // parts when that is what is selected); any other list as objects.
     const KyDiSelectionContext* context = KyDiSelectionContext::instance();
-    return areaOf(
-        **items,
-        context != nullptr ? context->kind() : KyDiDataSelectedItemCollectionImp::kPlainObjects,
-        value);
+    const bool selected = context != nullptr && *items == &context->selectedItems();
+    return areaOf(**items,
+                  selected ? context->kind() : KyDiDataSelectedItemCollectionImp::kPlainObjects,
+                  value);
 }
 
 KyDiSelectionContextCumulativeAreaProperty::KyDiSelectionContextCumulativeAreaProperty(

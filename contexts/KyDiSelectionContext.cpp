@@ -31,6 +31,10 @@ public:
         m_owner->selectionChanged();
     }
     void collectionReset() override { m_owner->selectionChanged(); }
+    // The list tells the change of a selected object as a modification of
+    // its item: that is the change a mark of a write under a filter waits
+    // for.
+    void itemsModified(const KyDiItemArray&) override { m_owner->selectedObjectsModified(); }
 
 private:
     KyDiSelectionContext* m_owner;
@@ -238,6 +242,14 @@ void KyDiSelectionContext::selectionChanged() {
     m_valueCache.clear();
     narrowClippedViewports();
     notifyChanged(this, nullptr, nullptr);
+}
+
+void KyDiSelectionContext::selectedObjectsModified() {
+    // Only what a filter waits for: without one, the change was told when
+    // the object changed.
+    if (m_filterClass != nullptr && !m_modifiedObjects.isEmpty()) {
+        selectionChanged();
+    }
 }
 
 void KyDiSelectionContext::objectChangedInSelection(KyDbObjectId id) {

@@ -60,10 +60,17 @@ public:
 
     // How the selected items open: as objects, sub-entities or cells.
     SelectionCommonValues::Kind kind() const;
+    // The items of the selection, as the selected item list holds them.
+    const KyDiItemArray& selectedItems() const { return items(); }
     static void buildMembers(KyRxMemberCollectionBuilder& builder, void* userData);
 
     // The selected items changed: the filter and what was computed go.
     void selectionChanged();
+    // The list told that selected objects changed: the change that the mark
+    // of a write under a filter waits for. With the mark alone the filter
+    // stays; with objects outside the filter changed as well, the selection
+    // starts over.
+    void selectedObjectsModified();
     // A selected object changed (the null id: a write left some alone).
     void objectChangedInSelection(KyDbObjectId id);
 

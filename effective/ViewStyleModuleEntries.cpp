@@ -1,19 +1,16 @@
 #include "effective/ViewStyleModuleEntries.h"
 
+#include "db/KyDbViewStyleModule.h"
 #include "rx/KyRxDictionary.h"
 #include "rx/KyRxDynamicLinker.h"
 
 namespace {
 
-constexpr wchar_t kModuleName[] = L"KYSYNERGYOBJ";
-
-using GetViewStyle = bool (*)(KyDbEntity* entity, KyDbObjectId& styleId, int& kind);
-using SetViewStyle = bool (*)(const KyArray<KyDbObjectId>& ids, const KyDbObjectId* styleId,
-                              int kind);
+using KyDbViewStyleModule::kModuleName;
 
 // Kept once found: the module answers false itself while it is unloaded.
-GetViewStyle g_getViewStyle = nullptr;
-SetViewStyle g_setViewStyle = nullptr;
+KyModelDocGetViewStyleForEntityFn g_getViewStyle = nullptr;
+KyModelDocSetViewStyleForEntitiesFn g_setViewStyle = nullptr;
 
 }  // namespace
 
@@ -24,7 +21,7 @@ void* ViewStyleModuleEntries::resolve(const wchar_t* symbol) {
     }
     const auto* services = kyrxCast<KyRxDictionary>(registry->at(L"ServiceDictionary"));
     // Without its service the module isn't loaded, and this doesn't load it.
-    if (services == nullptr || services->at(kModuleName) == nullptr) {
+    if (services == nullptr || services->at(KyDbViewStyleModule::kServiceName) == nullptr) {
         return nullptr;
     }
     const auto* linker = kyrxCast<KyRxDynamicLinker>(registry->at(L"DynamicLinker"));
@@ -34,8 +31,8 @@ void* ViewStyleModuleEntries::resolve(const wchar_t* symbol) {
 Kyro::ErrorStatus ViewStyleModuleEntries::getViewStyle(KyDbEntity* entity, int kind,
                                                        KyDbObjectId& styleId) {
     if (g_getViewStyle == nullptr) {
-        g_getViewStyle =
-            reinterpret_cast<GetViewStyle>(resolve(L"KyModelDocGetViewStyleForEntity"));
+        g_getViewStyle = reinterpret_cast<KyModelDocGetViewStyleForEntityFn>(
+            resolve(KyDbViewStyleModule::kGetViewStyleForEntity));
         if (g_getViewStyle == nullptr) {
             return Kyro::eNotApplicable;
         }
@@ -52,8 +49,8 @@ Kyro::ErrorStatus ViewStyleModuleEntries::getViewStyle(KyDbEntity* entity, int k
 Kyro::ErrorStatus ViewStyleModuleEntries::setViewStyle(const KyArray<KyDbObjectId>& ids,
                                                        const KyDbObjectId& styleId, int kind) {
     if (g_setViewStyle == nullptr) {
-        g_setViewStyle =
-            reinterpret_cast<SetViewStyle>(resolve(L"KyModelDocSetViewStyleForEntities"));
+        g_setViewStyle = reinterpret_cast<KyModelDocSetViewStyleForEntitiesFn>(
+            resolve(KyDbViewStyleModule::kSetViewStyleForEntities));
         if (g_setViewStyle == nullptr) {
             return Kyro::eNotApplicable;
         }

@@ -731,8 +731,16 @@ bool KyAppScript::propertyStatement(const KyAppStatement& statement, KyDiDynamic
     }
     std::string error;
     const KyAppWord& word = statement.words[at + 1];
-    const std::optional<KyAppValue> typed = KyAppValue::parse(word.text, word.quoted, error);
     KyRxValue value;
+    // The marker of values that differ, as a property panel writes it back.
+    if (!word.quoted && word.text == "varies") {
+        if (const Kyro::ErrorStatus status = property->setValue(item, KyRxValue::varies());
+            status != Kyro::eOk) {
+            return fail(name + " was not set: " + statusText(status));
+        }
+        return true;
+    }
+    const std::optional<KyAppValue> typed = KyAppValue::parse(word.text, word.quoted, error);
     if (!typed.has_value()) {
         return fail(error);
     }

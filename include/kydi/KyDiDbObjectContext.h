@@ -55,6 +55,9 @@ protected:
 
 private:
     void unbind();
+    // Whether `property` is a member of the bound object (true when the
+    // object can't be opened: the access tells that failure).
+    bool resolves(const KyRxPropertyBase* property) const;
 
     mutable KyDbObjectId m_objectId;
     KyDbObjectReactor* m_objectReactor;

@@ -102,10 +102,16 @@ TEST_F(ObjectContext, BindsWhenAskedAndStandsForTheObjectUntilPointedElsewhere) 
     EXPECT_EQ(spy->take(), Lines{"contextChanged POINTED []"});
     EXPECT_EQ(kydbOpenObjectCount(), 0);
 
+    // A member kept from the line is no member of the circle, and back.
+    const KyRxProperty* startPoint = property(L"StartPoint");
+    ASSERT_NE(startPoint, nullptr);
     // Pointed at the circle: the line's changes are no longer heard.
     context.wanted = object(L"4E");
     EXPECT_TRUE(context.isActive());
     EXPECT_TRUE(members().contains("Radius"));
+    KyRxValue kept;
+    EXPECT_EQ(startPoint->getValue(&context, kept), Kyro::eInvalidInput);
+    EXPECT_EQ(startPoint->setValue(&context, KyRxValue(KyGePoint3d())), Kyro::eInvalidInput);
     KyDiManager::refresh();
     spy->take();
     type(L"ERASE\n#4B\n\n");

@@ -161,9 +161,17 @@ TEST_F(SelectionContext, ALineAndACircleShowOnlyWhatTheyShareAndAFilterNarrowsTo
     ASSERT_EQ(property(L"Color")->setValue(context, KyRxValue(colorIndex(5))), Kyro::eOk);
     EXPECT_EQ(colorOf(L"4E").colorIndex(), 5);
     EXPECT_TRUE(colorOf(L"4B").isByLayer());
-    // The change of the written object keeps the filter.
+    // The change of the written object keeps the filter; the next change of
+    // the selection is told and starts over.
     KyDiManager::refresh();
     EXPECT_EQ(kinds->getFilterClass(), KyDbCircle::desc());
+    spy->take();
+    host.selectionService()->setSelection({object(L"4C")});
+    KyDiManager::refresh();
+    EXPECT_EQ(spy->take(), Lines{"contextChanged SELECTION []"});
+    EXPECT_EQ(kinds->getFilterClass(), nullptr);
+    EXPECT_EQ(kinds->getItemCount(), 1);
+    ASSERT_TRUE(kinds->setFilterClass(KyDbLine::desc()));
     EXPECT_TRUE(kinds->setFilterClass(nullptr));
     EXPECT_EQ(kinds->getFilterClass(), nullptr);
 }

@@ -17,6 +17,7 @@
 #include "effective/KyDiImpEffectiveSelectionProperty.h"
 #include "kydi/KyDiDataItemFactory.h"
 #include "kydi/KyDiObservableCollection.h"
+#include "rx/KyRxDynamicLinker.h"
 
 namespace {
 
@@ -86,6 +87,13 @@ TEST_F(EffectiveSelection, SelectedEntitiesShowWhatTheyShareVariesWhereTheyDiffe
     EXPECT_EQ(read(&E::getDimensionStyle), "status 2");
     EXPECT_EQ(read(&E::getTextStyle), "status 2");
     EXPECT_EQ(read(&E::getTableStyle), "status 2");
+
+    // Same layer, another colour: the layer is shared, the colour varies.
+    select({});
+    type(L"CHPROP\n4C\n\n_Color\n1\n\n");
+    select({L"4B", L"4C", L"4E"});
+    EXPECT_EQ(read(&E::getLayer), "Walls");
+    EXPECT_EQ(read(&E::getColor), "varies");
 
     // A line of another layer with its own colour, lineweight and
     // transparency: those vary.
@@ -176,18 +184,81 @@ TEST_F(EffectiveSelection, ObjectReactorsStayOnAllSelectedSinceEmptyAndLeaveAtTh
     EXPECT_TRUE(imp->watchedObjects().empty());
 }
 
-TEST_F(EffectiveSelection, ASwitchOfDocumentTakesTheReactorsOff) {
+TEST_F(EffectiveSelection, ASwitchOfDocumentOrItsCloseTakesTheReactorsOff) {
     select({L"4B", L"4C"});
     read(&E::getLayer);
     ASSERT_TRUE(watched(L"4B"));
     const KyDbObjectId line = object(L"4B");
-    host.documents().newDocument();
+    KyRefDocument* other = host.documents().newDocument();
     pass();
     EXPECT_TRUE(imp->watchedObjects().empty());
     KyDbObject* dbObject = nullptr;
     ASSERT_EQ(kydbOpenObject(dbObject, line, KyDb::kForRead), Kyro::eOk);
     EXPECT_TRUE(dbObject->reactors() == nullptr || dbObject->reactors()->isEmpty());
     dbObject->close();
+
+    // Back in the sample, then the sample closes while its objects are
+    // watched: the sanitizer catches a reactor left on a freed object.
+    host.documents().makeCurrent(sample);
+    pass();
+    select({L"4B"});
+    read(&E::getLayer);
+    ASSERT_FALSE(imp->watchedObjects().empty());
+    host.documents().closeDocument(sample);
+    pass();
+    EXPECT_TRUE(imp->watchedObjects().empty());
+    EXPECT_EQ(host.documents().current(), other);
+}
+
+TEST_F(EffectiveSelection, NoObjectKeepsTheReactorAfterShutdown) {
+    select({L"4B", L"4C"});
+    read(&E::getLayer);
+    ASSERT_TRUE(watched(L"4B"));
+    const KyDbObjectId line = object(L"4B");
+    stop();
+    KyDbObject* dbObject = nullptr;
+    ASSERT_EQ(kydbOpenObject(dbObject, line, KyDb::kForRead), Kyro::eOk);
+    EXPECT_TRUE(dbObject->reactors() == nullptr || dbObject->reactors()->isEmpty());
+    dbObject->close();
+}
+
+TEST_F(EffectiveSelection, ViewStylesAnswerThroughTheHostsModuleOnlyWhileItIsLoaded) {
+    // Without the module no callout answers, and asking doesn't load it.
+    select({L"BC"});
+    EXPECT_EQ(read(&E::getSectionViewStyle), "status 2");
+    EXPECT_FALSE(kyrxServiceIsRegistered(L"KYSYNERGYOBJ"));
+
+    // Loaded later, it takes effect at the next reading.
+    ASSERT_TRUE(kyrxLoadModule(L"KYSYNERGYOBJ", false));
+    select({});
+    select({L"BC"});
+    EXPECT_EQ(read(&E::getSectionViewStyle), "Standard");
+    EXPECT_EQ(read(&E::getDetailViewStyle), "status 2") << "a section callout";
+    select({L"BD"});
+    EXPECT_EQ(read(&E::getDetailViewStyle), "Metric");
+    select({L"BC", L"BD"});
+    EXPECT_EQ(read(&E::getSectionViewStyle), "status 2");
+
+    // A section style given to the selection reaches the section callout, as
+    // one step of undo.
+    select({L"BC", L"4B"});
+    ASSERT_EQ(effective->setSectionViewStyle(itemNamed(L"KYRO_SECTIONVIEWSTYLE", L"Metric")),
+              Kyro::eOk);
+    EXPECT_EQ(sentTexts(), Texts{});
+    select({L"BC"});
+    EXPECT_EQ(read(&E::getSectionViewStyle), "Metric");
+    type(L"U\n");
+    select({L"BC"});
+    EXPECT_EQ(read(&E::getSectionViewStyle), "Standard");
+
+    // Unloaded again: the functions kept answer nothing.
+    ASSERT_TRUE(kyrxUnloadModule(L"KYSYNERGYOBJ"));
+    select({L"BD"});
+    EXPECT_EQ(read(&E::getDetailViewStyle), "status 2");
+    EXPECT_EQ(effective->setDetailViewStyle(itemNamed(L"KYRO_DETAILVIEWSTYLE", L"Standard")),
+              Kyro::eOk)
+        << "the module's refusal is not the setter's answer";
+    EXPECT_EQ(kydbOpenObjectCount(), 0);
 }
 
 TEST_F(EffectiveSelection, WritesSendTheChangePropertyCommandsAUserWouldType) {

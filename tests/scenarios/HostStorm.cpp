@@ -8,10 +8,13 @@
 #include "KyRefDocument.h"
 #include "KyRefLayoutViewports.h"
 #include "KyRefManualClock.h"
+#include "KyRefSelectionService.h"
 #include "db/KyCmColor.h"
 #include "db/KyDbDatabase.h"
+#include "db/KyDbHandle.h"
 #include "kydi/KyDiContext.h"
 #include "kydi/KyDiContextManager.h"
+#include "kydi/KyDiEffectiveProperty.h"
 #include "kydi/KyDiFunctions.h"
 #include "kydi/KyDiManager.h"
 #include "rx/KyRxMemberQueryEngine.h"
@@ -149,6 +152,8 @@ void HostStorm::step() {
         document();
     } else if (roll < 91) {
         entity();
+    } else if (roll < 95) {
+        selection();
     } else {
         refresh();
     }
@@ -380,6 +385,49 @@ void HostStorm::entity() {
             type("entity", L"CHPROP\n" + std::wstring(m_dice.among(kHandles)) + L"\n\n_LAyer\n" +
                                layerName() + L"\n\n");
             break;
+    }
+}
+
+void HostStorm::selection() {
+    // Entities of the sample drawing, and a layer record (no entity).
+    static const wchar_t* const kHandles[] = {L"4A", L"4B", L"4C", L"4D", L"4E", L"52",
+                                              L"54", L"5B", L"5C", L"5E", L"BB", L"30"};
+    KyRefSelectionService* selection = m_host.selectionService();
+    KyDbDatabase* database = m_host.documents().currentDatabase();
+    switch (m_dice.pick(5)) {
+        case 0:
+            announce("selection", "clear");
+            selection->clear();
+            break;
+        case 1: {
+            // What the property bar does: a layer for everything selected.
+            KyDiObservableCollection* layers = KyDiManager::getKnownCollection(L"LAYER");
+            const int count = layers != nullptr ? layers->getItems().length() : 0;
+            KyDiDynamicObject* layer = count > 0 ? layers->getItems()[m_dice.pick(count)] : nullptr;
+            announce("selection", "effective layer " + KyDiGetItemName(layer).utf8());
+            if (layer != nullptr) {
+                KyDiManager::getEffectiveProperty()->setLayer(layer);
+            }
+            m_host.idle();
+            break;
+        }
+        default: {
+            std::vector<KyDbObjectId> ids;
+            std::string text;
+            for (int count = 1 + m_dice.pick(4); count > 0; --count) {
+                const wchar_t* handle = m_dice.among(kHandles);
+                KyDbHandle parsed;
+                KyDbObjectId id;
+                if (database != nullptr && KyDbHandle::fromText(handle, parsed) &&
+                    database->getKyDbObjectId(id, parsed) == Kyro::eOk) {
+                    ids.push_back(id);
+                    text += " " + KyString(handle).utf8();
+                }
+            }
+            announce("selection", "select" + text);
+            selection->setSelection(ids);
+            break;
+        }
     }
 }
 

@@ -8,7 +8,8 @@
 // layers; current items set through the collections; layer items written and
 // any item read member by member; drawings opened (the sample and a scratch
 // copy that the storm saves now and then), made new, switched and closed,
-// down to none; refresh requests on the manual clock and forced passes.
+// down to none; objects selected and cleared, and a layer given to what is
+// selected through the effective property; refresh requests on the manual clock and forced passes.
 #pragma once
 
 #include <functional>
@@ -75,6 +76,7 @@ private:
     void readItem();
     void document();
     void entity();
+    void selection();
     void refresh();
 
     // A command line text the storm types at random (never BATCH).

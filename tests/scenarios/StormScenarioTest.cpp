@@ -4,11 +4,12 @@
 // under ContextCheck, and no database object left open after any step. Now
 // and then, and at the end, two forced passes bring everything in step; then
 // each collection holds what a fresh fill of the drawing in front holds, its
-// current item is the record the drawing names current, and every item and
+// current item is the record the drawing names current, every item and
 // context that reads differently from the last look was told to have changed
-// (ChangeWitness). A batch starts a busy stretch, which drops what the
-// collections had pending: after one, the collections are reset first, and
-// now and then a look comes just before one.
+// (ChangeWitness), and so was every effective value, which reads what the
+// selected entities share (EffectiveWitness). A batch starts a busy stretch,
+// which drops what the collections had pending: after one, the collections
+// are reset first, and now and then a look comes just before one.
 //
 // KYDI_STORM_SEED replaces the seed, KYDI_STORM_STEPS the number of steps;
 // KYDI_STORM_CHECK_EVERY=N looks after every N steps as well (from the step
@@ -36,6 +37,7 @@
 #include "manager/RefHostFixture.h"
 #include "scenarios/ChangeWitness.h"
 #include "scenarios/ContextCheck.h"
+#include "scenarios/EffectiveWitness.h"
 #include "scenarios/HostStorm.h"
 #include "support/CollectionContract.h"
 #include "support/FreshFill.h"
@@ -67,6 +69,7 @@ protected:
     }
     void TearDown() override {
         contextWitnesses.clear();
+        effectiveWitness.reset();
         checked.clear();
         RefHostFixture::TearDown();
         std::error_code ignored;
@@ -141,6 +144,11 @@ protected:
             each.checker->expectInStep();
             each.witness->look(when);
         }
+        // Last: reading the effective colour of a selection may put that
+        // colour in the colour list, told at the next pass.
+        if (effectiveWitness != nullptr) {
+            effectiveWitness->look(when, afterBatch);
+        }
     }
     // A witness on every context the manager holds.
     void witnessContexts() {
@@ -158,6 +166,7 @@ protected:
     int looksAfterReset = 0;
     std::vector<Checked> checked;
     std::vector<std::unique_ptr<kytest::ContextWitness>> contextWitnesses;
+    std::unique_ptr<kytest::EffectiveWitness> effectiveWitness;
 };
 
 TEST_F(Storm, AHundredThousandRandomStepsKeepEveryCollectionAndContextInStep) {
@@ -175,6 +184,7 @@ TEST_F(Storm, AHundredThousandRandomStepsKeepEveryCollectionAndContextInStep) {
     kytest::ContextCheck contexts(where);
     ASSERT_GE(contexts.watchAll(), 1);
     witnessContexts();
+    effectiveWitness = std::make_unique<kytest::EffectiveWitness>(host);
     std::vector<KyDiObservableCollection*> collections;
     for (const Checked& each : checked) {
         collections.push_back(each.collection);
