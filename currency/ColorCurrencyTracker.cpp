@@ -1,5 +1,6 @@
 #include "currency/ColorCurrencyTracker.h"
 
+#include "collections/KyDiImpColorCollection.h"
 #include "currency/ColorSysVarReactor.h"
 #include "db/KyCmColor.h"
 #include "db/KyDbDatabase.h"
@@ -72,6 +73,9 @@ KyDiDynamicObject* ColorCurrencyTracker::findColor(const KyCmColor& color) const
         })) {
         return listed;
     }
+    // A colour the list lacks gets its item now and its place in the list
+    // at the next pass, told then: a read changes no list under a client.
     KyDiColorCollection* list = colors();
-    return list != nullptr ? list->addItem(color) : nullptr;
+    return list != nullptr ? static_cast<KyDiImpColorCollection*>(list->imp())->addColor(color)
+                           : nullptr;
 }
