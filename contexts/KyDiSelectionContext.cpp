@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "collections/CSelectedItemHelper.h"
+#include "contexts/ClassNameReader.h"
 #include "contexts/KyDiHatchCumulativeAreaProperty.h"
 #include "db/KyDbGuid.h"
 #include "db/KyDbViewport.h"
@@ -301,6 +302,7 @@ Kyro::ErrorStatus KyDiSelectionContext::buildGroups() {
     std::map<const KyRxClass*, size_t> byClass;
     std::map<KyString, size_t, KyStringLess> byName;
     Kyro::ErrorStatus status = Kyro::eOk;
+    ClassNameReader names;
     for (KyDiDynamicObject* item : items()) {
         const CSelectedItemHelper opened(kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(item)),
                                          KyDb::kForRead, kind());
@@ -322,7 +324,7 @@ Kyro::ErrorStatus KyDiSelectionContext::buildGroups() {
             dbObject != nullptr && dbObject->getClassID(&classId) == Kyro::eNotShown) {
             continue;
         }
-        const KyString name = SelectionCommonValues::className(object);
+        const KyString name = names.read(object);
         const auto known = name.isEmpty() ? byClass.find(cls) : byClass.end();
         const auto knownName = name.isEmpty() ? byName.end() : byName.find(name);
         size_t at = m_groups.size();

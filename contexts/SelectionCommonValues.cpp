@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "collections/CSelectedItemHelper.h"
+#include "contexts/ClassNameReader.h"
 #include "contexts/KyDiSelectionContext.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbEntity.h"
@@ -43,10 +44,9 @@ const KyRxMember* hostMember(const KyRxMember* member) {
     return source != nullptr ? source : member;
 }
 
-bool passes(const Filter& filter, const KyRxObject* object) {
+bool passes(const Filter& filter, const KyRxObject* object, ClassNameReader& names) {
     return filter.cls == nullptr ||
-           (object->isA() == filter.cls &&
-            SelectionCommonValues::className(object).compare(filter.name) == 0);
+           (object->isA() == filter.cls && names.read(object).compare(filter.name) == 0);
 }
 
 // An item of the selection, opened as the kind of selection says; the
@@ -108,19 +108,8 @@ std::vector<const KyRxClass*> memberClasses(const KyRxObject* object) {
 }  // namespace
 
 KyString SelectionCommonValues::memberText(const KyRxObject* object, const wchar_t* name) {
-    const auto* property =
-        kyrxCast<KyRxProperty>(engine().find(object, name, engine().promotingContext()));
-    KyRxValue value;
-    if (property == nullptr || property->getValue(object, value) != Kyro::eOk) {
-        return KyString();
-    }
-    if (const KyString* text = valueCast<KyString>(&value)) {
-        return *text;
-    }
-    if (const wchar_t* const* text = valueCast<const wchar_t*>(&value)) {
-        return KyString(*text);
-    }
-    return KyString();
+    return ClassNameReader::textOf(
+        object, kyrxCast<KyRxProperty>(engine().find(object, name, engine().promotingContext())));
 }
 
 const KyRxClass* SelectionCommonValues::lowestCommonClass(const KyRxClass* a, const KyRxClass* b) {
@@ -151,6 +140,7 @@ Kyro::ErrorStatus SelectionCommonValues::buildCommonMembers(const KyDiItemArray&
     std::vector<const KyRxClass*> running;
     bool membersLeft = true;
     IKyDbDynBlockReferenceHost* dynamicBlocks = IKyDbDynBlockReferenceHost::instance();
+    ClassNameReader names;
     for (KyDiDynamicObject* item : items) {
         const Opened opened(item, KyDb::kForRead, kind);
         if (opened.helper.getLastError() != Kyro::eOk) {
@@ -165,7 +155,7 @@ Kyro::ErrorStatus SelectionCommonValues::buildCommonMembers(const KyDiItemArray&
             return Kyro::eInvalidInput;
         }
         if (filter.cls != nullptr) {
-            if (!passes(filter, object)) {
+            if (!passes(filter, object, names)) {
                 continue;
             }
             if (const auto* record = kyrxCast<KyDiDbItem>(static_cast<KyRxObject*>(item))) {
@@ -294,6 +284,7 @@ Kyro::ErrorStatus SelectionCommonValues::getCommonValue(const KyDiItemArray& ite
         return status;
     }
     Resolver resolver(property);
+    ClassNameReader names;
     KyRxValue result;
     Kyro::ErrorStatus status = Kyro::eOk;
     int counted = 0;
@@ -303,7 +294,7 @@ Kyro::ErrorStatus SelectionCommonValues::getCommonValue(const KyDiItemArray& ite
         if (opened.helper.getLastError() != Kyro::eOk || object == nullptr) {
             return opened.helper.getLastError();
         }
-        const KyString name = className(object);
+        const KyString name = names.read(object);
         if (name.isEmpty() && filter.name.isEmpty()) {
             if (object->isA() == nullptr) {
                 return Kyro::eInvalidInput;
@@ -362,6 +353,7 @@ Kyro::ErrorStatus SelectionCommonValues::setCommonValue(const KyDiItemArray& ite
     KyRxValue hostValue = value;
     KyDiConvertFromDataItem(property, hostValue);
     Resolver resolver(property);
+    ClassNameReader names;
     Kyro::ErrorStatus status = Kyro::eOk;
     for (KyDiDynamicObject* item : items) {
         const Opened opened(item, mode, kind);
@@ -369,17 +361,17 @@ Kyro::ErrorStatus SelectionCommonValues::setCommonValue(const KyDiItemArray& ite
         if (opened.helper.getLastError() != Kyro::eOk || object == nullptr) {
             return opened.helper.getLastError();
         }
-        if (!passes(filter, object)) {
+        if (!passes(filter, object, names)) {
             continue;
         }
-        const KyString name = className(object);
+        const KyString name = names.read(object);
         const KyRxMember* member = resolver.resolve(object, name, filter);
         status = HostValueAccess::writeHostValue(
             object, member != nullptr ? hostMember(member) : nullptr, hostValue, index, key);
         if (status != Kyro::eOk) {
             return status;
         }
-        if (className(object).compare(name) != 0) {
+        if (names.read(object).compare(name) != 0) {
             classChanged = true;
         }
     }
@@ -393,6 +385,7 @@ KyRxValueIterator* SelectionCommonValues::newCommonValueIterator(const KyDiItemA
                                                                  const IdSet& filtered) {
     auto values = std::make_unique<KyDiValueIterator>();
     Resolver resolver(property);
+    ClassNameReader names;
     bool first = true;
     for (KyDiDynamicObject* item : items) {
         const Opened opened(item, KyDb::kForRead, kind);
@@ -400,11 +393,11 @@ KyRxValueIterator* SelectionCommonValues::newCommonValueIterator(const KyDiItemA
         if (opened.helper.getLastError() != Kyro::eOk || object == nullptr) {
             return nullptr;
         }
-        if (!passes(filter, object)) {
+        if (!passes(filter, object, names)) {
             continue;
         }
         const auto* collection = kyrxCast<KyRxCollectionProperty>([&]() -> const KyRxMember* {
-            const KyRxMember* member = resolver.resolve(object, className(object), filter);
+            const KyRxMember* member = resolver.resolve(object, names.read(object), filter);
             return member != nullptr ? hostMember(member) : nullptr;
         }());
         if (collection == nullptr) {

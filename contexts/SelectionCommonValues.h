@@ -60,8 +60,6 @@ public:
                                                      const KyRxPropertyBase* property,
                                                      const Filter& filter, const IdSet& filtered);
 
-    // The object's "ClassName"; empty without one.
-    static KyString className(const KyRxObject* object) { return memberText(object, L"ClassName"); }
     // The SELECTION context's own members (CumulativeArea), wrapped.
     static void appendSelectionContextMembers(KyDiMemberArray& members);
     // Whether `member` is one of the context's own, read on the context.
