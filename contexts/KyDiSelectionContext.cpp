@@ -1,5 +1,6 @@
 #include "contexts/KyDiSelectionContext.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "collections/CSelectedItemHelper.h"
@@ -127,12 +128,19 @@ KyRxMemberIterator* KyDiSelectionContext::subNewMemberIterator() {
     }
     // A listing starts the values over.
     m_valueCache.clear();
+    m_listed.clear();
     m_modifiedObjects.setLogicalLength(0);
     KyDiMemberArray members(0, 16);
     if (SelectionCommonValues::buildCommonMembers(items(), kind(), filter(), m_filteredObjects,
                                                   members) != Kyro::eOk ||
         members.isEmpty()) {
         return nullptr;
+    }
+    // A panel reads what it listed: those values are read together.
+    for (int i = 0; i < members.length(); ++i) {
+        if (SelectionCommonValues::readsTogether(members[i])) {
+            m_listed.push_back(static_cast<const KyRxPropertyBase*>(members[i]));
+        }
     }
     return new KyDiMemberIterator(members);
 }
@@ -146,10 +154,39 @@ Kyro::ErrorStatus KyDiSelectionContext::getValue(const KyRxPropertyBase* propert
         value = cached->second;
         return Kyro::eOk;
     }
+    if (index < 0 && key == nullptr &&
+        std::find(m_listed.begin(), m_listed.end(), property) != m_listed.end()) {
+        return readListedValues(property, value);
+    }
     const Kyro::ErrorStatus status = SelectionCommonValues::getCommonValue(
         items(), kind(), property, value, index, key, filter());
     if (status == Kyro::eOk && kyrxCast<KyRxProperty>(property) != nullptr) {
         m_valueCache[property] = value;
+    }
+    return status;
+}
+
+Kyro::ErrorStatus KyDiSelectionContext::readListedValues(const KyRxPropertyBase* wanted,
+                                                         KyRxValue& value) {
+    // Every listed value not known yet, in one walk: each object is opened
+    // once, not once a value.
+    std::vector<const KyRxPropertyBase*> unknown;
+    for (const KyRxPropertyBase* listed : m_listed) {
+        if (!m_valueCache.contains(listed)) {
+            unknown.push_back(listed);
+        }
+    }
+    std::vector<std::pair<Kyro::ErrorStatus, KyRxValue>> results;
+    SelectionCommonValues::getCommonValues(items(), kind(), unknown, filter(), results);
+    Kyro::ErrorStatus status = Kyro::eInvalidInput;
+    for (size_t i = 0; i < unknown.size(); ++i) {
+        if (results[i].first == Kyro::eOk) {
+            m_valueCache[unknown[i]] = results[i].second;
+        }
+        if (unknown[i] == wanted) {
+            status = results[i].first;
+            value = results[i].second;
+        }
     }
     return status;
 }
@@ -220,6 +257,7 @@ KyRxValueIterator* KyDiSelectionContext::newValueIterator(const KyRxPropertyBase
 void KyDiSelectionContext::resetFilter() {
     // The values read under another filter are of other objects.
     m_valueCache.clear();
+    m_listed.clear();
     m_modifiedObjects.setLogicalLength(0);
     m_filteredObjects.clear();
     m_filterClass = nullptr;
@@ -241,6 +279,7 @@ void KyDiSelectionContext::selectionChanged() {
     m_visitedClasses.clear();
     m_groups.clear();
     m_valueCache.clear();
+    m_listed.clear();
     narrowClippedViewports();
     notifyChanged(this, nullptr, nullptr);
 }

@@ -86,6 +86,9 @@ private:
     };
 
     const KyDiItemArray& items() const;
+    // Reads every value of the last listing that is not known yet; answers
+    // the value of `wanted`, one of them.
+    Kyro::ErrorStatus readListedValues(const KyRxPropertyBase* wanted, KyRxValue& value);
     SelectionCommonValues::Filter filter() const;
     void resetFilter();
     Kyro::ErrorStatus buildGroups();
@@ -94,6 +97,9 @@ private:
     KyDiObservableCollection* m_selected;
     KyDiSelectedItemsReactor* m_reactor;
     std::map<const KyRxPropertyBase*, KyRxValue> m_valueCache;
+    // The scalar members of the last listing, whose values are read
+    // together.
+    std::vector<const KyRxPropertyBase*> m_listed;
     KyRxClass* m_filterClass = nullptr;
     KyString m_filterName;
     int m_visitCursor = 0;

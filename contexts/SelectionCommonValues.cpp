@@ -97,6 +97,93 @@ bool same(const KyRxValue& a, const KyRxValue& b) {
     return a.type() == b.type() && a == b;
 }
 
+// Whether `object` counts under `filter`: eOk when it does, eNotApplicable
+// when the filter leaves it out, eInvalidInput for an object without a
+// class.
+Kyro::ErrorStatus countsUnder(const Filter& filter, const KyRxObject* object,
+                              const KyString& name) {
+    if (name.isEmpty() && filter.name.isEmpty()) {
+        if (object->isA() == nullptr) {
+            return Kyro::eInvalidInput;
+        }
+        if (filter.cls != nullptr && object->isA() != filter.cls) {
+            return Kyro::eNotApplicable;
+        }
+    } else if (filter.cls != nullptr && filter.name.compare(name) != 0) {
+        return Kyro::eNotApplicable;
+    }
+    return Kyro::eOk;
+}
+
+// The common value of one property, folded object by object: the first
+// value read, "varies" at the first that differs, or the status of the first
+// failure.
+class CommonValueFold {
+public:
+    CommonValueFold(const KyRxPropertyBase* property, int index, const wchar_t* key)
+        : m_property(property), m_resolver(property), m_index(index), m_key(key) {}
+
+    // Folds in the value of `object` (of "ClassName" `name`); true when the
+    // value is settled and no further object need be read.
+    bool fold(const KyRxObject* object, const KyString& name, const Filter& filter) {
+        const KyRxMember* member = m_resolver.resolve(object, name, filter);
+        if (member == nullptr) {
+            return fail(Kyro::eInvalidInput);
+        }
+        KyRxValue current;
+        const Kyro::ErrorStatus status =
+            HostValueAccess::readHostValue(object, hostMember(member), current, m_index, m_key);
+        if (status == Kyro::eAmbiguousOutput) {
+            // The object's own value varies (its parts differ).
+            m_result = KyRxValue::varies();
+            return true;
+        }
+        if (status != Kyro::eOk) {
+            return fail(status);
+        }
+        NameConverters::toLocal(object->isA(), m_property->name(), current);
+        if (m_counted++ == 0) {
+            m_result = current;
+            return false;
+        }
+        if (!same(m_result, current)) {
+            m_result = valueCast<KyDiExpression>(&current) == nullptr
+                           ? KyRxValue::varies()
+                           : KyRxValue(KyDiExpression{KyRxValue::varies(), KyString()});
+            return true;
+        }
+        return false;
+    }
+    // The walk ends in a failure: the value is that status.
+    bool fail(Kyro::ErrorStatus status) {
+        m_status = status;
+        m_failed = true;
+        return true;
+    }
+    // The value, as a client reads it (a record as its item); the status.
+    Kyro::ErrorStatus finish(KyRxValue& value) {
+        if (m_failed) {
+            value = KyRxValue();
+            return m_status;
+        }
+        value = m_result;
+        if (!value.isEmpty() && !value.isVaries()) {
+            KyDiConvertToDataItem(value);
+        }
+        return Kyro::eOk;
+    }
+
+private:
+    const KyRxPropertyBase* m_property;
+    Resolver m_resolver;
+    int m_index;
+    const wchar_t* m_key;
+    KyRxValue m_result;
+    int m_counted = 0;
+    Kyro::ErrorStatus m_status = Kyro::eOk;
+    bool m_failed = false;
+};
+
 // The classes an object's members come from: its own and those of its
 // facets.
 std::vector<const KyRxClass*> memberClasses(const KyRxObject* object) {
@@ -283,11 +370,8 @@ Kyro::ErrorStatus SelectionCommonValues::getCommonValue(const KyDiItemArray& ite
         }
         return status;
     }
-    Resolver resolver(property);
+    CommonValueFold fold(property, index, key);
     ClassNameReader names;
-    KyRxValue result;
-    Kyro::ErrorStatus status = Kyro::eOk;
-    int counted = 0;
     for (KyDiDynamicObject* item : items) {
         const Opened opened(item, KyDb::kForRead, kind);
         KyRxObject* object = opened.helper.object();
@@ -295,48 +379,74 @@ Kyro::ErrorStatus SelectionCommonValues::getCommonValue(const KyDiItemArray& ite
             return opened.helper.getLastError();
         }
         const KyString name = names.read(object);
-        if (name.isEmpty() && filter.name.isEmpty()) {
-            if (object->isA() == nullptr) {
-                return Kyro::eInvalidInput;
-            }
-            if (filter.cls != nullptr && object->isA() != filter.cls) {
+        const Kyro::ErrorStatus counts = countsUnder(filter, object, name);
+        if (counts == Kyro::eNotApplicable) {
+            continue;
+        }
+        if (counts != Kyro::eOk) {
+            return counts;
+        }
+        if (fold.fold(object, name, filter)) {
+            break;
+        }
+    }
+    return fold.finish(value);
+}
+
+bool SelectionCommonValues::readsTogether(const KyRxMember* member) {
+    const KyRxMember* host = member != nullptr ? hostMember(member) : nullptr;
+    return kyrxCast<KyRxProperty>(member) != nullptr && kyrxCast<KyRxProperty>(host) != nullptr &&
+           !hasSelectionAffinity(host);
+}
+
+void SelectionCommonValues::getCommonValues(
+    const KyDiItemArray& items, Kind kind, const std::vector<const KyRxPropertyBase*>& properties,
+    const Filter& filter, std::vector<std::pair<Kyro::ErrorStatus, KyRxValue>>& results) {
+    std::vector<CommonValueFold> folds;
+    folds.reserve(properties.size());
+    for (const KyRxPropertyBase* property : properties) {
+        folds.emplace_back(property, -1, nullptr);
+    }
+    results.assign(properties.size(), {Kyro::eOk, KyRxValue()});
+    // Each object is opened once for every value still open to doubt.
+    std::vector<size_t> open(properties.size());
+    for (size_t i = 0; i < open.size(); ++i) {
+        open[i] = i;
+    }
+    ClassNameReader names;
+    for (KyDiDynamicObject* item : items) {
+        if (open.empty()) {
+            break;
+        }
+        const Opened opened(item, KyDb::kForRead, kind);
+        KyRxObject* object = opened.helper.object();
+        Kyro::ErrorStatus failed = opened.helper.getLastError();
+        KyString name;
+        if (failed == Kyro::eOk && object != nullptr) {
+            name = names.read(object);
+            failed = countsUnder(filter, object, name);
+            if (failed == Kyro::eNotApplicable) {
                 continue;
             }
-        } else if (filter.cls != nullptr && filter.name.compare(name) != 0) {
-            continue;
         }
-        const KyRxMember* member = resolver.resolve(object, name, filter);
-        if (member == nullptr) {
-            return Kyro::eInvalidInput;
-        }
-        KyRxValue current;
-        status = HostValueAccess::readHostValue(object, hostMember(member), current, index, key);
-        if (status == Kyro::eAmbiguousOutput) {
-            // The object's own value varies (its parts differ).
-            result = KyRxValue::varies();
-            status = Kyro::eOk;
+        if (failed != Kyro::eOk || object == nullptr) {
+            // What the walk of each value would answer at this object.
+            for (size_t i : open) {
+                folds[i].fail(failed);
+            }
             break;
         }
-        if (status != Kyro::eOk) {
-            return status;
+        std::vector<size_t> still;
+        for (size_t i : open) {
+            if (!folds[i].fold(object, name, filter)) {
+                still.push_back(i);
+            }
         }
-        NameConverters::toLocal(object->isA(), property->name(), current);
-        if (counted++ == 0) {
-            result = current;
-            continue;
-        }
-        if (!same(result, current)) {
-            result = valueCast<KyDiExpression>(&current) == nullptr
-                         ? KyRxValue::varies()
-                         : KyRxValue(KyDiExpression{KyRxValue::varies(), KyString()});
-            break;
-        }
+        open.swap(still);
     }
-    value = result;
-    if (!value.isEmpty() && !value.isVaries()) {
-        KyDiConvertToDataItem(value);
+    for (size_t i = 0; i < folds.size(); ++i) {
+        results[i].first = folds[i].finish(results[i].second);
     }
-    return status;
 }
 
 Kyro::ErrorStatus SelectionCommonValues::setCommonValue(const KyDiItemArray& items, Kind kind,

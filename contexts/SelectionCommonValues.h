@@ -9,6 +9,8 @@
 #pragma once
 
 #include <set>
+#include <utility>
+#include <vector>
 
 #include "base/KyString.h"
 #include "collections/KyDiDataSelectedItemCollectionImp.h"
@@ -46,6 +48,17 @@ public:
     static Kyro::ErrorStatus getCommonValue(const KyDiItemArray& items, Kind kind,
                                             const KyRxPropertyBase* property, KyRxValue& value,
                                             int index, const wchar_t* key, const Filter& filter);
+    // Whether the value of `member` (a listed member) can be read in one walk
+    // with others: a scalar property that doesn't sum the selection up.
+    static bool readsTogether(const KyRxMember* member);
+    // The common values of several scalar properties in one walk, each
+    // object opened once: for each property what getCommonValue answers with
+    // no index and no key, in the order given. For the properties of a
+    // listing, read together after a change of the selection.
+    static void getCommonValues(const KyDiItemArray& items, Kind kind,
+                                const std::vector<const KyRxPropertyBase*>& properties,
+                                const Filter& filter,
+                                std::vector<std::pair<Kyro::ErrorStatus, KyRxValue>>& results);
     // Writes `value` to every counted object, under one document lock; the
     // objects written before a failure stay written. `classChanged` is set
     // when a write changed an object's "ClassName".

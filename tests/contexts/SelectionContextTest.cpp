@@ -12,6 +12,7 @@
 #include "KyRefDocument.h"
 #include "KyRefSelectionService.h"
 #include "contexts/ManagerSpy.h"
+#include "contexts/SelectionCommonValues.h"
 #include "db/KyCmColor.h"
 #include "db/KyDbBlockReference.h"
 #include "db/KyDbCircle.h"
@@ -174,6 +175,39 @@ TEST_F(SelectionContext, ALineAndACircleShowOnlyWhatTheyShareAndAFilterNarrowsTo
     ASSERT_TRUE(kinds->setFilterClass(KyDbLine::desc()));
     EXPECT_TRUE(kinds->setFilterClass(nullptr));
     EXPECT_EQ(kinds->getFilterClass(), nullptr);
+}
+
+TEST_F(SelectionContext, ListedValuesReadTogetherAreWhatEachReadAloneGives) {
+    // Lines alike and apart, a circle, a hatch: values agree, vary, or fail.
+    select({L"4B", L"4C", L"4D", L"4E", L"BB"});
+    const KyDiItemArray& selected =
+        KyDiManager::getKnownCollection(L"KYDI_DATAITEM_SELECTED_ITEMS")->getItems();
+    std::vector<const KyRxProperty*> listed;
+    {
+        const std::unique_ptr<KyRxMemberIterator> it(context->newMemberIterator());
+        for (; it != nullptr && !it->done(); it->next()) {
+            if (const auto* each = kyrxCast<KyRxProperty>(it->current())) {
+                listed.push_back(each);
+            }
+        }
+    }
+    ASSERT_GT(listed.size(), 5U);
+    int varying = 0;
+    for (const KyRxProperty* each : listed) {
+        KyRxValue together;
+        const Kyro::ErrorStatus status = each->getValue(context, together);
+        KyRxValue alone;
+        EXPECT_EQ(SelectionCommonValues::getCommonValue(selected, SelectionCommonValues::Kind(),
+                                                        each, alone, -1, nullptr,
+                                                        SelectionCommonValues::Filter()),
+                  status)
+            << KyString(each->name()).utf8();
+        EXPECT_EQ(together.text().utf8(), alone.text().utf8()) << KyString(each->name()).utf8();
+        varying += together.isVaries() ? 1 : 0;
+    }
+    EXPECT_GT(varying, 0);
+    EXPECT_LT(varying, static_cast<int>(listed.size()));
+    EXPECT_EQ(kydbOpenObjectCount(), 0);
 }
 
 TEST_F(SelectionContext, ObjectsOnLockedLayersAreLeftAloneAndOnlyThoseAnswer87) {
