@@ -221,15 +221,23 @@ Kyro::ErrorStatus KyDiSelectionContext::setValue(const KyRxPropertyBase* propert
             if (excluded == total) {
                 return Kyro::eAllObjectsExcluded;
             }
-            // Each excluded id takes out the first item that stands for it.
+            // Each excluded id takes out the first item that stands for it,
+            // in one walk however many are excluded.
+            std::map<KyDbObjectId, int> toTakeOut;
             for (int i = 0; i < idsA.length(); ++i) {
-                for (int j = 0; j < written.length(); ++j) {
-                    if (KyDiImpDbObjectCollection::idOf(written[j]) == idsA[i]) {
-                        written.removeAt(j);
-                        break;
-                    }
-                }
+                ++toTakeOut[idsA[i]];
             }
+            KyDiItemArray kept(0, 8);
+            kept.setPhysicalLength(written.length());
+            for (int j = 0; j < written.length(); ++j) {
+                const auto found = toTakeOut.find(KyDiImpDbObjectCollection::idOf(written[j]));
+                if (found != toTakeOut.end() && found->second > 0) {
+                    --found->second;
+                    continue;
+                }
+                kept.append(written[j]);
+            }
+            written = kept;
             if (writtenKind != KyDiDataSelectedItemCollectionImp::kPlainObjects) {
                 writtenKind = KyDiDataSelectedItemCollectionImp::reclassify(written);
             }
