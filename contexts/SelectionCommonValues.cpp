@@ -63,9 +63,25 @@ class Resolver {
 public:
     explicit Resolver(const KyRxPropertyBase* property) : m_name(property->name()) {}
 
-    // Null when the object has no member of the property's name.
+    // The host member (never a wrapper) of the property's name on the
+    // object; null when it has none. The last answer is kept apart: the
+    // objects of a selection come mostly in runs of one class.
     const KyRxMember* resolve(const KyRxObject* object, const KyString& name,
                               const Filter& filter) {
+        const bool plain = name.isEmpty() && filter.name.isEmpty();
+        if (plain && object->isA() == m_lastClass && m_lastClass != nullptr) {
+            return m_lastMember;
+        }
+        const KyRxMember* member = lookUp(object, name, filter);
+        if (plain) {
+            m_lastClass = object->isA();
+            m_lastMember = member;
+        }
+        return member;
+    }
+
+private:
+    const KyRxMember* lookUp(const KyRxObject* object, const KyString& name, const Filter& filter) {
         const bool byName = !name.isEmpty() || !filter.name.isEmpty();
         if (byName) {
             if (const auto found = m_byName.find(name); found != m_byName.end()) {
@@ -74,8 +90,9 @@ public:
         } else if (const auto found = m_byClass.find(object->isA()); found != m_byClass.end()) {
             return found->second;
         }
-        const KyRxMember* member =
+        const KyRxMember* found =
             engine().find(object, m_name.kwszPtr(), engine().promotingContext());
+        const KyRxMember* member = found != nullptr ? hostMember(found) : nullptr;
         if (member != nullptr) {
             if (byName) {
                 m_byName[name] = member;
@@ -86,8 +103,9 @@ public:
         return member;
     }
 
-private:
     KyString m_name;
+    const KyRxClass* m_lastClass = nullptr;
+    const KyRxMember* m_lastMember = nullptr;
     std::map<const KyRxClass*, const KyRxMember*> m_byClass;
     std::map<KyString, const KyRxMember*, KyStringLess> m_byName;
 };
@@ -130,9 +148,16 @@ public:
         if (member == nullptr) {
             return fail(Kyro::eInvalidInput);
         }
+        // The formula extension and the conversion of names come with the
+        // class: asked again only when the class changes.
+        if (object->isA() != m_class) {
+            m_class = object->isA();
+            m_formulas = HostValueAccess::formulasOf(object);
+            m_converts = NameConverters::convertsOn(m_class, m_property->name());
+        }
         KyRxValue current;
         const Kyro::ErrorStatus status =
-            HostValueAccess::readHostValue(object, hostMember(member), current, m_index, m_key);
+            HostValueAccess::readHostValue(object, member, current, m_index, m_key, m_formulas);
         if (status == Kyro::eAmbiguousOutput) {
             // The object's own value varies (its parts differ).
             m_result = KyRxValue::varies();
@@ -141,7 +166,9 @@ public:
         if (status != Kyro::eOk) {
             return fail(status);
         }
-        NameConverters::toLocal(object->isA(), m_property->name(), current);
+        if (m_converts) {
+            NameConverters::toLocal(m_class, m_property->name(), current);
+        }
         if (m_counted++ == 0) {
             m_result = current;
             return false;
@@ -178,6 +205,10 @@ private:
     Resolver m_resolver;
     int m_index;
     const wchar_t* m_key;
+    // What comes with the class of the objects read last.
+    const KyRxClass* m_class = nullptr;
+    const KyRxPropertyExpressionPE* m_formulas = nullptr;
+    bool m_converts = false;
     KyRxValue m_result;
     int m_counted = 0;
     Kyro::ErrorStatus m_status = Kyro::eOk;
@@ -476,8 +507,7 @@ Kyro::ErrorStatus SelectionCommonValues::setCommonValue(const KyDiItemArray& ite
         }
         const KyString name = names.read(object);
         const KyRxMember* member = resolver.resolve(object, name, filter);
-        status = HostValueAccess::writeHostValue(
-            object, member != nullptr ? hostMember(member) : nullptr, hostValue, index, key);
+        status = HostValueAccess::writeHostValue(object, member, hostValue, index, key);
         if (status != Kyro::eOk) {
             return status;
         }
@@ -507,8 +537,7 @@ KyRxValueIterator* SelectionCommonValues::newCommonValueIterator(const KyDiItemA
             continue;
         }
         const auto* collection = kyrxCast<KyRxCollectionProperty>([&]() -> const KyRxMember* {
-            const KyRxMember* member = resolver.resolve(object, names.read(object), filter);
-            return member != nullptr ? hostMember(member) : nullptr;
+            return resolver.resolve(object, names.read(object), filter);
         }());
         if (collection == nullptr) {
             return nullptr;

@@ -109,11 +109,14 @@ void NameConverters::install() {
 }
 
 void NameConverters::toLocal(const KyRxClass* cls, const wchar_t* propertyName, KyRxValue& value) {
+    if (convertsOn(cls, propertyName)) {
+        kydiManagerState().nameConverters.find(cls)->second->convert(&value, true);
+    }
+}
+
+bool NameConverters::convertsOn(const KyRxClass* cls, const wchar_t* propertyName) {
     const auto& converters = kydiManagerState().nameConverters;
     const auto found = converters.find(cls);
-    if (found == converters.end() || propertyName == nullptr ||
-        KyString(propertyName).compareNoCase(found->second->propertyName) != 0) {
-        return;
-    }
-    found->second->convert(&value, true);
+    return found != converters.end() && propertyName != nullptr &&
+           KyString(propertyName).compareNoCase(found->second->propertyName) == 0;
 }

@@ -30,6 +30,9 @@ public:
     // the user's language when a row covers them (the property name compared
     // without regard to case).
     static void toLocal(const KyRxClass* cls, const wchar_t* propertyName, KyRxValue& value);
+    // Whether toLocal changes anything for `cls` and `propertyName`: for a
+    // reader of many objects of one class.
+    static bool convertsOn(const KyRxClass* cls, const wchar_t* propertyName);
 
     // The reserved kinds of the standard visual styles, ended by
     // KyDb::kReservedStringCount.

@@ -9,14 +9,6 @@
 
 namespace {
 
-// The formula extension of the object's class, when the member holds a
-// formula on this object now.
-const KyRxPropertyExpressionPE* formulaOf(const KyRxObject* object, const KyRxMember* member) {
-    const auto* extension =
-        kyrxCast<KyRxPropertyExpressionPE>(object->queryX(KyRxPropertyExpressionPE::desc()));
-    return extension != nullptr && extension->isExpression(object, member) ? extension : nullptr;
-}
-
 // The value of an expression written without a formula, in the member's
 // type: an int from a double is truncated, a double from an int widened.
 bool plainValueFor(const KyRxMember* member, const KyRxValue& inner, KyRxValue& out) {
@@ -45,8 +37,19 @@ bool plainValueFor(const KyRxMember* member, const KyRxValue& inner, KyRxValue& 
 
 }  // namespace
 
+const KyRxPropertyExpressionPE* HostValueAccess::formulasOf(const KyRxObject* object) {
+    return kyrxCast<KyRxPropertyExpressionPE>(object->queryX(KyRxPropertyExpressionPE::desc()));
+}
+
 Kyro::ErrorStatus HostValueAccess::readHostValue(const KyRxObject* object, const KyRxMember* member,
                                                  KyRxValue& value, int index, const wchar_t* key) {
+    return readHostValue(object, member, value, index, key,
+                         object != nullptr ? formulasOf(object) : nullptr);
+}
+
+Kyro::ErrorStatus HostValueAccess::readHostValue(const KyRxObject* object, const KyRxMember* member,
+                                                 KyRxValue& value, int index, const wchar_t* key,
+                                                 const KyRxPropertyExpressionPE* formulas) {
     if (object == nullptr || member == nullptr) {
         return Kyro::eInvalidInput;
     }
@@ -73,8 +76,10 @@ Kyro::ErrorStatus HostValueAccess::readHostValue(const KyRxObject* object, const
     if (status != Kyro::eOk) {
         return status;
     }
-    if (const KyRxPropertyExpressionPE* formula = formulaOf(object, member)) {
-        KyDiExpression expression{value, formula->getExpression(object, member)};
+    // A member that holds a formula on this object now reads as the value
+    // with the formula's text.
+    if (formulas != nullptr && formulas->isExpression(object, member)) {
+        KyDiExpression expression{value, formulas->getExpression(object, member)};
         value = KyRxValue(expression);
     }
     return Kyro::eOk;
@@ -100,8 +105,10 @@ Kyro::ErrorStatus HostValueAccess::writeHostValue(KyRxObject* object, const KyRx
         return Kyro::eInvalidInput;
     }
     const KyDiExpression* expression = valueCast<KyDiExpression>(&value);
+    const KyRxPropertyExpressionPE* formulas = expression != nullptr ? formulasOf(object) : nullptr;
+    // The member holds a formula on this object now.
     const KyRxPropertyExpressionPE* formula =
-        expression != nullptr ? formulaOf(object, member) : nullptr;
+        formulas != nullptr && formulas->isExpression(object, member) ? formulas : nullptr;
     if (formula == nullptr) {
         return property->setValue(object, value);
     }

@@ -12,6 +12,7 @@
 
 class KyRxMember;
 class KyRxObject;
+class KyRxPropertyExpressionPE;
 class KyRxValue;
 
 class HostValueAccess {
@@ -20,6 +21,14 @@ public:
     // that does not take the index or the key given.
     static Kyro::ErrorStatus readHostValue(const KyRxObject* object, const KyRxMember* member,
                                            KyRxValue& value, int index, const wchar_t* key);
+    // The same for a reader that knows the formula extension of the object
+    // (`formulas`, null when its class has none), reading many objects of one
+    // class.
+    static Kyro::ErrorStatus readHostValue(const KyRxObject* object, const KyRxMember* member,
+                                           KyRxValue& value, int index, const wchar_t* key,
+                                           const KyRxPropertyExpressionPE* formulas);
+    // The formula extension of `object`; null when it has none.
+    static const KyRxPropertyExpressionPE* formulasOf(const KyRxObject* object);
     static Kyro::ErrorStatus writeHostValue(KyRxObject* object, const KyRxMember* member,
                                             const KyRxValue& value, int index, const wchar_t* key);
 };
