@@ -123,9 +123,12 @@ TEST_F(SelectionContext, TwoLinesShowTheirCommonValuesAndOneWriteReachesBoth) {
     EXPECT_TRUE(colorOf(L"4B").isByLayer());
     EXPECT_TRUE(colorOf(L"4C").isByLayer());
 
-    // "Varies" written changes nothing.
+    // "Varies" written changes nothing, and is no command to undo.
+    commandLine();
     property(L"Color")->setValue(context, KyRxValue::varies());
     EXPECT_TRUE(colorOf(L"4B").isByLayer());
+    type(L"U\n");
+    EXPECT_NE(commandLine().back(), L"Undone: OPM_CHGPROP");
     EXPECT_EQ(kydbOpenObjectCount(), 0);
 }
 
@@ -251,6 +254,8 @@ TEST_F(SelectionContext, TwoHatchesAddUpTheAreaTheyCoverAndAHatchWithALineDoesNo
 
     select({L"5E", L"4B"});
     EXPECT_FALSE(members().contains("CumulativeArea"));
+    // Asked all the same, a line among the hatches makes it not applicable.
+    EXPECT_EQ(KyDiGetCommonValue(hatches, own, value), Kyro::eNotApplicable);
 }
 
 TEST_F(SelectionContext, ACollectionIsReadForTheOneObjectTheLastListingUnderAFilterLeft) {
