@@ -13,8 +13,10 @@
 #include "KyRefSelectionService.h"
 #include "contexts/ManagerSpy.h"
 #include "contexts/SelectionCommonValues.h"
+#include "db/KyAxDocLock.h"
 #include "db/KyCmColor.h"
 #include "db/KyDbBlockReference.h"
+#include "db/KyDbBlockTableRecord.h"
 #include "db/KyDbCircle.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbEntity.h"
@@ -22,6 +24,10 @@
 #include "db/KyDbLine.h"
 #include "db/KyDbObjectPointer.h"
 #include "db/KyDbOpenObject.h"
+#include "db/KyDbStandardContent.h"
+#include "db/KyDbSymbolTable.h"
+#include "db/KyDbUnknownEntity.h"
+#include "db/KyDbViewport.h"
 #include "kydi/IKyDiSelectionItemProvider.h"
 #include "kydi/KyDiContext.h"
 #include "kydi/KyDiContextManager.h"
@@ -88,6 +94,13 @@ protected:
         KyCmColor color;
         color.setColorIndex(index);
         return color;
+    }
+    // The index of a colour read through the context (its item's value).
+    static int colorIndexOf(const KyRxValue& value) {
+        KyDiDynamicObject* const* item = valueCast<KyDiDynamicObject*>(&value);
+        const KyCmColor* color =
+            item != nullptr ? valueCast<KyCmColor>((*item)->value()) : valueCast<KyCmColor>(&value);
+        return color != nullptr ? color->colorIndex() : -1;
     }
     KyCmColor colorOf(const wchar_t* handle) {
         KyDbObjectPointer<KyDbEntity> entity(object(handle), KyDb::kForRead);
@@ -211,6 +224,63 @@ TEST_F(SelectionContext, ListedValuesReadTogetherAreWhatEachReadAloneGives) {
     EXPECT_GT(varying, 0);
     EXPECT_LT(varying, static_cast<int>(listed.size()));
     EXPECT_EQ(kydbOpenObjectCount(), 0);
+}
+
+TEST_F(SelectionContext, AClassNameFilterSeparatesKindsOfOneClassAndOutlivesItsOwnWrite) {
+    // Entities of kinds the platform keeps whole: one class, two names.
+    std::vector<KyDbObjectId> kept;
+    {
+        KyDbDatabase* database = host.documents().currentDatabase();
+        const KyAxDocLock lock(database);
+        KyDbObjectId modelId;
+        {
+            KyDbObjectPointer<KyDbSymbolTable> blocks(database->blockTableId(), KyDb::kForRead);
+            blocks->getAt(KyDbStandardContent::kModelSpaceName, modelId);
+        }
+        KyDbObjectPointer<KyDbBlockTableRecord> model(modelId, KyDb::kForWrite);
+        for (const wchar_t* kind : {L"SPRINKLER", L"VALVE", L"SPRINKLER"}) {
+            auto* entity = new KyDbUnknownEntity();
+            entity->setTypeName(kind);
+            KyDbObjectId id;
+            ASSERT_EQ(model->appendKyDbEntity(id, entity), Kyro::eOk);
+            entity->close();
+            kept.push_back(id);
+        }
+    }
+    host.selectionService()->setSelection(kept);
+    KyDiManager::refresh();
+    KyDiManager::refresh();
+    ASSERT_EQ(kinds->getItemCount(), 2);
+    EXPECT_EQ(kinds->getItem(0).className.utf8(), "SPRINKLER");
+    EXPECT_EQ(kinds->getItem(0).count, 2);
+    EXPECT_EQ(kinds->getItem(1).className.utf8(), "VALVE");
+
+    ASSERT_TRUE(kinds->setFilter(KyDbUnknownEntity::desc(), KyString(L"VALVE")));
+    EXPECT_TRUE(members().contains("Color"));
+    ASSERT_EQ(property(L"Color")->setValue(context, KyRxValue(colorIndex(4))), Kyro::eOk);
+    KyDbObjectPointer<KyDbEntity> valve(kept[1], KyDb::kForRead);
+    EXPECT_EQ(valve->color().colorIndex(), 4);
+    valve.close();
+    KyDbObjectPointer<KyDbEntity> sprinkler(kept[0], KyDb::kForRead);
+    EXPECT_TRUE(sprinkler->color().isByLayer()) << "another kind of the same class";
+    sprinkler.close();
+    // The change its own write makes of the list keeps the filter.
+    KyDiManager::refresh();
+    EXPECT_EQ(kinds->getFilterClass(), KyDbUnknownEntity::desc());
+    EXPECT_EQ(kinds->getFilterName().utf8(), "VALVE");
+    EXPECT_EQ(colorIndexOf(read(L"Color")), 4);
+}
+
+TEST_F(SelectionContext, AClippedViewportWithItsClipIsNarrowedToTheViewport) {
+    // 6C is clipped by an outline of its own; 4A stands for that outline.
+    select({L"6C", L"4A"});
+    EXPECT_EQ(kinds->getFilterClass(), KyDbViewport::desc());
+    // One more object: the user means them all.
+    select({L"6C", L"4A", L"4B"});
+    EXPECT_EQ(kinds->getFilterClass(), nullptr);
+    // A viewport without a clip of its own is no reason to narrow.
+    select({L"6B", L"4A"});
+    EXPECT_EQ(kinds->getFilterClass(), nullptr);
 }
 
 TEST_F(SelectionContext, ObjectsOnLockedLayersAreLeftAloneAndOnlyThoseAnswer87) {
