@@ -20,7 +20,7 @@ const KyDbPropertyRow kArcRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbArc, KyDbEntity, kArcRows)
+KYDB_DEFINE_ENTITY(KyDbArc, KyDbEntity, kArcRows, L"ARC")
 
 KyDbArc::KyDbArc() = default;
 

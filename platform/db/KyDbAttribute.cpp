@@ -11,7 +11,7 @@ const KyDbPropertyRow kAttributeRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbAttribute, KyDbText, kAttributeRows)
+KYDB_DEFINE_ENTITY(KyDbAttribute, KyDbText, kAttributeRows, L"ATTRIB")
 
 KyDbAttribute::KyDbAttribute() = default;
 

@@ -53,7 +53,7 @@ const KyDbPropertyRow kReferenceRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbBlockReference, KyDbEntity, kReferenceRows)
+KYDB_DEFINE_ENTITY(KyDbBlockReference, KyDbEntity, kReferenceRows, L"INSERT")
 
 KyDbBlockReference::KyDbBlockReference() = default;
 

@@ -17,7 +17,7 @@ const KyDbPropertyRow kCircleRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbCircle, KyDbEntity, kCircleRows)
+KYDB_DEFINE_ENTITY(KyDbCircle, KyDbEntity, kCircleRows, L"CIRCLE")
 
 KyDbCircle::KyDbCircle() = default;
 

@@ -19,10 +19,12 @@ KyRxObject* kydbiConstruct() {
     return new T();
 }
 
-// Registers a class of the database under `parent` with its local name.
+// Registers a class of the database under `parent` with its local name and
+// the type word a drawing file names its objects by (null for none).
 KyRxClass* kydbiRegisterClass(const wchar_t* className, KyRxClass* parent,
                               KyRxPseudoConstructor constructor,
-                              KyRxMemberCollectionConstructorPtr builder);
+                              KyRxMemberCollectionConstructorPtr builder,
+                              const wchar_t* dxfName = nullptr);
 
 #define KYDB_DEFINE_CLASS_EX(CLASS, PARENT, CONSTRUCTOR, BUILDER)                 \
     KyRxClass* CLASS::desc() {                                                    \
@@ -34,16 +36,21 @@ KyRxClass* kydbiRegisterClass(const wchar_t* className, KyRxClass* parent,
         return CLASS::desc();                                                     \
     }
 
-// A class with the members of ROWS and the formulas among them.
-#define KYDB_DEFINE_CLASS_ROWS(CLASS, PARENT, CONSTRUCTOR, ROWS)                 \
-    KyRxClass* CLASS::desc() {                                                   \
-        static KyRxClass* s_class = kydbiAddFormulas<ROWS>(kydbiRegisterClass(   \
-            L## #CLASS, PARENT::desc(), CONSTRUCTOR, &kydbiBuildMembers<ROWS>)); \
-        return s_class;                                                          \
-    }                                                                            \
-    KyRxClass* CLASS::isA() const {                                              \
-        return CLASS::desc();                                                    \
+// A class with the members of ROWS and the formulas among them, named WORD
+// in a drawing file (nullptr for a class the file has no word for).
+#define KYDB_DEFINE_CLASS_WORD(CLASS, PARENT, CONSTRUCTOR, ROWS, WORD)                 \
+    KyRxClass* CLASS::desc() {                                                         \
+        static KyRxClass* s_class = kydbiAddFormulas<ROWS>(kydbiRegisterClass(         \
+            L## #CLASS, PARENT::desc(), CONSTRUCTOR, &kydbiBuildMembers<ROWS>, WORD)); \
+        return s_class;                                                                \
+    }                                                                                  \
+    KyRxClass* CLASS::isA() const {                                                    \
+        return CLASS::desc();                                                          \
     }
+
+// A class with the members of ROWS and the formulas among them.
+#define KYDB_DEFINE_CLASS_ROWS(CLASS, PARENT, CONSTRUCTOR, ROWS) \
+    KYDB_DEFINE_CLASS_WORD(CLASS, PARENT, CONSTRUCTOR, ROWS, nullptr)
 
 // A class made by class, without members of its own.
 #define KYDB_DEFINE_MEMBERS(CLASS, PARENT) \
@@ -51,6 +58,10 @@ KyRxClass* kydbiRegisterClass(const wchar_t* className, KyRxClass* parent,
 // A class made by class, with the members of ROWS.
 #define KYDB_DEFINE_CLASS(CLASS, PARENT, ROWS) \
     KYDB_DEFINE_CLASS_ROWS(CLASS, PARENT, &kydbiConstruct<CLASS>, ROWS)
+// An entity class made by class, with the members of ROWS, whose objects a
+// drawing file names by the type word WORD (a wide literal).
+#define KYDB_DEFINE_ENTITY(CLASS, PARENT, ROWS, WORD) \
+    KYDB_DEFINE_CLASS_WORD(CLASS, PARENT, &kydbiConstruct<CLASS>, ROWS, WORD)
 // A base class (not made by class), with the members of ROWS.
 #define KYDB_DEFINE_BASE_CLASS(CLASS, PARENT, ROWS) \
     KYDB_DEFINE_CLASS_ROWS(CLASS, PARENT, nullptr, ROWS)

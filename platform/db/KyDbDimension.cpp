@@ -36,7 +36,7 @@ const KyDbPropertyRow kDimensionRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbDimension, KyDbEntity, kDimensionRows)
+KYDB_DEFINE_ENTITY(KyDbDimension, KyDbEntity, kDimensionRows, L"DIMENSION")
 
 KyDbDimension::KyDbDimension() = default;
 

@@ -22,7 +22,7 @@ const KyDbPropertyRow kEllipseRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbEllipse, KyDbEntity, kEllipseRows)
+KYDB_DEFINE_ENTITY(KyDbEllipse, KyDbEntity, kEllipseRows, L"ELLIPSE")
 
 KyDbEllipse::KyDbEllipse() = default;
 

@@ -26,7 +26,7 @@ const KyDbPropertyRow kHatchRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbHatch, KyDbEntity, kHatchRows)
+KYDB_DEFINE_ENTITY(KyDbHatch, KyDbEntity, kHatchRows, L"HATCH")
 
 KyDbHatch::KyDbHatch() : m_patternName(kSolid) {}
 

@@ -46,7 +46,25 @@ const KyDbPropertyRow kLayerRows[] = {
      KyDbCategory::kGeneral, 10},
     {L"Description", kydbiAccess<&Layer::description, &Layer::setDescription>(),
      KyDbCategory::kGeneral, 11},
+    {L"HasXrefOverrides", kydbiAccess<&Layer::hasXrefOverrides>(), KyDbCategory::kGeneral, 12},
 };
+
+// The properties of a layer that the host drawing can override on a layer of
+// an external reference: the writable ones above.
+const wchar_t* const kXrefOverridable[] = {
+    L"Color",       L"LinetypeObjectId", L"LineWeight", L"Transparency", L"PlotStyleName",
+    L"IsOff",       L"IsFrozen",         L"IsLocked",   L"IsPlottable",  L"IsFrozenInNewViewports",
+    L"Description",
+};
+
+bool isXrefOverridable(const KyString& name) {
+    for (const wchar_t* overridable : kXrefOverridable) {
+        if (name.compare(overridable) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
 
 bool isLayerColor(const KyCmColor& color) {
     return color.isByACI() || color.isByColor();
@@ -72,15 +90,23 @@ bool KyDbLayerTableRecord::isLayerZero() const {
     return name().compare(KyDbStandardContent::kLayerZero) == 0;
 }
 
-Kyro::ErrorStatus KyDbLayerTableRecord::setFlag(bool& flag, bool value) {
+Kyro::ErrorStatus KyDbLayerTableRecord::setFlag(bool& flag, bool value,
+                                                const wchar_t* propertyName) {
     if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
         return status;
     }
     if (flag != value) {
         assertWriteEnabled();
         flag = value;
+        noteXrefOverride(propertyName);
     }
     return Kyro::eOk;
+}
+
+void KyDbLayerTableRecord::noteXrefOverride(const wchar_t* propertyName) {
+    if (!hasXrefOverride(propertyName) && isDependent()) {
+        m_xrefOverrides.append(KyString(propertyName));
+    }
 }
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setColor(const KyCmColor& color) {
@@ -93,28 +119,29 @@ Kyro::ErrorStatus KyDbLayerTableRecord::setColor(const KyCmColor& color) {
     if (color != m_color) {
         assertWriteEnabled();
         m_color = color;
+        noteXrefOverride(L"Color");
     }
     return Kyro::eOk;
 }
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setIsOff(bool off) {
-    return setFlag(m_off, off);
+    return setFlag(m_off, off, L"IsOff");
 }
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setIsFrozen(bool frozen) {
-    return setFlag(m_frozen, frozen);
+    return setFlag(m_frozen, frozen, L"IsFrozen");
 }
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setIsLocked(bool locked) {
-    return setFlag(m_locked, locked);
+    return setFlag(m_locked, locked, L"IsLocked");
 }
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setIsPlottable(bool plottable) {
-    return setFlag(m_plottable, plottable);
+    return setFlag(m_plottable, plottable, L"IsPlottable");
 }
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setIsFrozenInNewViewports(bool frozen) {
-    return setFlag(m_frozenInNewViewports, frozen);
+    return setFlag(m_frozenInNewViewports, frozen, L"IsFrozenInNewViewports");
 }
 
 Kyro::ErrorStatus KyDbLayerTableRecord::setLinetypeObjectId(KyDbObjectId linetypeId) {
@@ -129,6 +156,7 @@ Kyro::ErrorStatus KyDbLayerTableRecord::setLinetypeObjectId(KyDbObjectId linetyp
     if (linetypeId != m_linetype) {
         assertWriteEnabled();
         m_linetype = linetypeId;
+        noteXrefOverride(L"LinetypeObjectId");
     }
     return Kyro::eOk;
 }
@@ -143,6 +171,7 @@ Kyro::ErrorStatus KyDbLayerTableRecord::setLineWeight(KyDb::LineWeight weight) {
     if (weight != m_lineWeight) {
         assertWriteEnabled();
         m_lineWeight = weight;
+        noteXrefOverride(L"LineWeight");
     }
     return Kyro::eOk;
 }
@@ -157,6 +186,7 @@ Kyro::ErrorStatus KyDbLayerTableRecord::setTransparency(const KyCmTransparency& 
     if (transparency != m_transparency) {
         assertWriteEnabled();
         m_transparency = transparency;
+        noteXrefOverride(L"Transparency");
     }
     return Kyro::eOk;
 }
@@ -171,6 +201,7 @@ Kyro::ErrorStatus KyDbLayerTableRecord::setPlotStyleName(const wchar_t* name) {
     if (m_plotStyleName.compare(name) != 0) {
         assertWriteEnabled();
         m_plotStyleName = name;
+        noteXrefOverride(L"PlotStyleName");
     }
     return Kyro::eOk;
 }
@@ -182,6 +213,7 @@ Kyro::ErrorStatus KyDbLayerTableRecord::setDescription(const wchar_t* descriptio
     if (m_description.compare(description) != 0) {
         assertWriteEnabled();
         m_description = description;
+        noteXrefOverride(L"Description");
     }
     return Kyro::eOk;
 }
@@ -408,7 +440,35 @@ Kyro::ErrorStatus KyDbLayerTableRecord::removeAllOverrides() {
     return Kyro::eOk;
 }
 
+bool KyDbLayerTableRecord::hasXrefOverride(const wchar_t* propertyName) const {
+    if (propertyName == nullptr) {
+        return false;
+    }
+    for (const KyString& name : m_xrefOverrides) {
+        if (name.compareNoCase(propertyName) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
 Kyro::ErrorStatus KyDbLayerTableRecord::setXrefOverrides(const KyStringArray& propertyNames) {
+    if (const Kyro::ErrorStatus status = checkWritable(); status != Kyro::eOk) {
+        return status;
+    }
+    if (!propertyNames.isEmpty() && !isDependent()) {
+        return Kyro::eInvalidInput;
+    }
+    for (int i = 0; i < propertyNames.length(); ++i) {
+        if (!isXrefOverridable(propertyNames[i])) {
+            return Kyro::eInvalidInput;
+        }
+        for (int j = 0; j < i; ++j) {
+            if (propertyNames[j].compare(propertyNames[i]) == 0) {
+                return Kyro::eInvalidInput;
+            }
+        }
+    }
     return setMember(m_xrefOverrides, propertyNames);
 }
 

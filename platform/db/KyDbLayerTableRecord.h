@@ -17,10 +17,17 @@
 // layer's state: changing them is a change of the layer, with its undo and
 // its notifications.
 //
-// External reference overrides. A layer of an external reference can have
-// properties that the host drawing changed; the layer keeps the names of
-// those properties (the reflected names: "Color", "IsOff" ...), as a reader
-// found them (KyXRefLayerPropertyOverride reads them).
+// External reference overrides. A layer of an external reference
+// (isDependent: "XREF|name") can have properties that the host drawing
+// changed; the layer keeps the names of those properties (the reflected
+// names: "Color", "IsOff" ...) in the order they were first changed. Every
+// setter above that changes the value of such a layer in its database notes
+// its property, whoever calls it; a layer that is not in a database yet (one
+// being read or brought in from the reference) notes nothing, and a layer of
+// the drawing itself never has any. The names are part of the layer's state,
+// so undo takes a change and its note back together. The reflected
+// "HasXrefOverrides" tells whether there are any
+// (KyXRefLayerPropertyOverride reads them by id).
 #pragma once
 
 #include <vector>
@@ -113,6 +120,12 @@ public:
 
     // The names of the properties overridden in the host drawing.
     const KyStringArray& xrefOverrides() const { return m_xrefOverrides; }
+    bool hasXrefOverrides() const { return !m_xrefOverrides.isEmpty(); }
+    // Without regard to case; false for null.
+    bool hasXrefOverride(const wchar_t* propertyName) const;
+    // Replaces the names (a reader's call). eInvalidInput for a name that is
+    // no writable property of a layer, a name given twice, or any name on a
+    // layer that is not dependent.
     Kyro::ErrorStatus setXrefOverrides(const KyStringArray& propertyNames);
 
 protected:
@@ -142,7 +155,10 @@ private:
     };
 
     bool isLayerZero() const;
-    Kyro::ErrorStatus setFlag(bool& flag, bool value);
+    Kyro::ErrorStatus setFlag(bool& flag, bool value, const wchar_t* propertyName);
+    // After a change of the property: notes it as overridden on a layer of an
+    // external reference.
+    void noteXrefOverride(const wchar_t* propertyName);
     // The checks of a write of an override: the record is open for write and
     // the id is that of a viewport of its database.
     Kyro::ErrorStatus checkOverrideWrite(KyDbObjectId viewportId) const;

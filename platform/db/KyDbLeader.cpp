@@ -22,7 +22,7 @@ const KyDbPropertyRow kLeaderRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbLeader, KyDbEntity, kLeaderRows)
+KYDB_DEFINE_ENTITY(KyDbLeader, KyDbEntity, kLeaderRows, L"LEADER")
 
 KyDbLeader::KyDbLeader() = default;
 

@@ -15,7 +15,7 @@ const KyDbPropertyRow kLineRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbLine, KyDbEntity, kLineRows)
+KYDB_DEFINE_ENTITY(KyDbLine, KyDbEntity, kLineRows, L"LINE")
 
 KyDbLine::KyDbLine() = default;
 

@@ -26,7 +26,7 @@ const KyDbPropertyRow kMLeaderRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbMLeader, KyDbEntity, kMLeaderRows)
+KYDB_DEFINE_ENTITY(KyDbMLeader, KyDbEntity, kMLeaderRows, L"MLEADER")
 
 KyDbMLeader::KyDbMLeader() = default;
 

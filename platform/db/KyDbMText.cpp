@@ -24,7 +24,7 @@ const KyDbPropertyRow kMTextRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbMText, KyDbEntity, kMTextRows)
+KYDB_DEFINE_ENTITY(KyDbMText, KyDbEntity, kMTextRows, L"MTEXT")
 
 KyDbMText::KyDbMText() = default;
 

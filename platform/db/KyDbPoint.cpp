@@ -12,7 +12,7 @@ const KyDbPropertyRow kPointRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbPoint, KyDbEntity, kPointRows)
+KYDB_DEFINE_ENTITY(KyDbPoint, KyDbEntity, kPointRows, L"POINT")
 
 KyDbPoint::KyDbPoint() = default;
 

@@ -21,7 +21,7 @@ const KyDbPropertyRow kPolylineRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbPolyline, KyDbEntity, kPolylineRows)
+KYDB_DEFINE_ENTITY(KyDbPolyline, KyDbEntity, kPolylineRows, L"POLYLINE")
 
 KyDbPolyline::KyDbPolyline() = default;
 

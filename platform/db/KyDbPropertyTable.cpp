@@ -70,8 +70,8 @@ KyRxMember* kydbiMakePointList(const wchar_t* name, const KyRxObject* owner,
 
 KyRxClass* kydbiRegisterClass(const wchar_t* className, KyRxClass* parent,
                               KyRxPseudoConstructor constructor,
-                              KyRxMemberCollectionConstructorPtr builder) {
-    KyRxClass* cls = kyrxRegisterBuiltinClass(className, parent, constructor, builder);
+                              KyRxMemberCollectionConstructorPtr builder, const wchar_t* dxfName) {
+    KyRxClass* cls = kyrxRegisterBuiltinClass(className, parent, constructor, builder, dxfName);
     if (const unsigned id = KyDbPropertyTexts::classNameId(className); id != 0) {
         cls->attributes().add(new KyRxLocalizedNameAttribute(id));
     }

@@ -119,6 +119,7 @@ const TextRow kPropertyTexts[] = {
     {L"CalloutKind", 9704},
     {L"ViewStyleId", 9705},
     {L"Label", 9706},
+    {L"HasXrefOverrides", 9707},
 };
 
 // Local names of the database classes, by class name.

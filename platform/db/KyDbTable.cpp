@@ -30,7 +30,7 @@ const KyString& dataStyle() {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbTable, KyDbEntity, kTableRows)
+KYDB_DEFINE_ENTITY(KyDbTable, KyDbEntity, kTableRows, L"TABLE")
 
 KyDbTable::KyDbTable() = default;
 

@@ -26,7 +26,7 @@ const KyDbPropertyRow kTextRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbText, KyDbEntity, kTextRows)
+KYDB_DEFINE_ENTITY(KyDbText, KyDbEntity, kTextRows, L"TEXT")
 
 KyDbText::KyDbText() = default;
 

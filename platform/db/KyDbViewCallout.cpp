@@ -32,7 +32,7 @@ bool isKind(int kind) {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbViewCallout, KyDbEntity, kViewCalloutRows)
+KYDB_DEFINE_ENTITY(KyDbViewCallout, KyDbEntity, kViewCalloutRows, L"VIEWCALLOUT")
 
 KyDbViewCallout::KyDbViewCallout() = default;
 

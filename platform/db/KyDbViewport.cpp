@@ -49,7 +49,7 @@ const KyDbPropertyRow kViewportRows[] = {
 
 }  // namespace
 
-KYDB_DEFINE_CLASS(KyDbViewport, KyDbEntity, kViewportRows)
+KYDB_DEFINE_ENTITY(KyDbViewport, KyDbEntity, kViewportRows, L"VIEWPORT")
 
 KyDbViewport::KyDbViewport() = default;
 

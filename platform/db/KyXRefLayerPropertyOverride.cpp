@@ -25,22 +25,13 @@ bool readLayer(KyDbObjectId layerId, Read read) {
 }  // namespace
 
 bool KyXRefLayerPropertyOverride::hasAnyXRefLayerOverrides(KyDbObjectId layerId) {
-    return readLayer(layerId, [](const KyDbLayerTableRecord& layer) {
-        return !layer.xrefOverrides().isEmpty();
-    });
+    return readLayer(layerId,
+                     [](const KyDbLayerTableRecord& layer) { return layer.hasXrefOverrides(); });
 }
 
 bool KyXRefLayerPropertyOverride::hasXRefLayerOverride(KyDbObjectId layerId,
                                                        const wchar_t* propertyName) {
-    if (propertyName == nullptr) {
-        return false;
-    }
     return readLayer(layerId, [propertyName](const KyDbLayerTableRecord& layer) {
-        for (const KyString& name : layer.xrefOverrides()) {
-            if (name.compareNoCase(propertyName) == 0) {
-                return true;
-            }
-        }
-        return false;
+        return layer.hasXrefOverride(propertyName);
     });
 }

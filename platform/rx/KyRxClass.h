@@ -115,7 +115,9 @@ KYPLATFORM_API bool kyrxBuildClassHierarchy();
 [[noreturn]] KYPLATFORM_API void kyrx_abort(const wchar_t* format, ...);
 
 // Used by KYRX_DEFINE_MEMBERS: registers a class of the platform under a
-// parent that exists already.
+// parent that exists already, with the type word a drawing file names its
+// objects by (null for none).
 KYPLATFORM_API KyRxClass* kyrxRegisterBuiltinClass(const wchar_t* className, KyRxClass* parent,
                                                    KyRxPseudoConstructor constructor,
-                                                   KyRxMemberCollectionConstructorPtr builder);
+                                                   KyRxMemberCollectionConstructorPtr builder,
+                                                   const wchar_t* dxfName = nullptr);

@@ -150,7 +150,8 @@ void kyrx_abort(const wchar_t* format, ...) {
 
 KyRxClass* kyrxRegisterBuiltinClass(const wchar_t* className, KyRxClass* parent,
                                     KyRxPseudoConstructor constructor,
-                                    KyRxMemberCollectionConstructorPtr builder) {
+                                    KyRxMemberCollectionConstructorPtr builder,
+                                    const wchar_t* dxfName) {
     KyRxDictionary* classes = kyrxClassDictionary();
     if (classes->at(className) != nullptr) {
         // Only a client that took the name first can cause this.
@@ -158,7 +159,7 @@ KyRxClass* kyrxRegisterBuiltinClass(const wchar_t* className, KyRxClass* parent,
     }
     KyRxClass* cls =
         KyRxClassRegistry::make(className, parent != nullptr ? parent->name() : nullptr, 0, 0, 0,
-                                constructor, nullptr, nullptr, nullptr, builder, nullptr);
+                                constructor, dxfName, nullptr, nullptr, builder, nullptr);
     KyRxClassRegistry::link(cls, parent);
     classes->atPut(className, cls);
     return cls;

@@ -372,6 +372,7 @@ private:
         }
         for (std::size_t i = 0; i < layers->size(); ++i) {
             KyRefTableRows::readViewportOverrides(m_context, layers->item(i), m_layers[i]);
+            KyRefTableRows::readXrefOverrides(layers->item(i), m_layers[i]);
             m_context.keepSpellings(m_layers[i], layers->item(i));
         }
     }

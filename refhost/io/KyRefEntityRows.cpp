@@ -727,25 +727,25 @@ KyDbEntity* checkPointCloud(KyRefReadContext& context, const KyRefJsonNode& node
 }
 
 const KyRefEntityRow kRows[] = {
-    {"LINE", &classOf<KyDbLine>, &kLineMembers, &readLine, nullptr, &writeLine},
-    {"CIRCLE", &classOf<KyDbCircle>, &kCircleMembers, &readCircle, nullptr, &writeCircle},
-    {"ARC", &classOf<KyDbArc>, &kArcMembers, &readArc, nullptr, &writeArc},
-    {"ELLIPSE", &classOf<KyDbEllipse>, &kEllipseMembers, &readEllipse, nullptr, &writeEllipse},
-    {"POINT", &classOf<KyDbPoint>, &kPointMembers, &readPoint, nullptr, &writePoint},
-    {"POLYLINE", &classOf<KyDbPolyline>, &kPolylineMembers, &readPolyline, nullptr, &writePolyline},
-    {"TEXT", &classOf<KyDbText>, &kTextMembers, &readText, nullptr, &writeText},
-    {"MTEXT", &classOf<KyDbMText>, &kMTextMembers, &readMText, nullptr, &writeMText},
-    {"INSERT", &classOf<KyDbBlockReference>, &kInsertMembers, &readInsert, &fillInsert,
+    {nullptr, &classOf<KyDbLine>, &kLineMembers, &readLine, nullptr, &writeLine},
+    {nullptr, &classOf<KyDbCircle>, &kCircleMembers, &readCircle, nullptr, &writeCircle},
+    {nullptr, &classOf<KyDbArc>, &kArcMembers, &readArc, nullptr, &writeArc},
+    {nullptr, &classOf<KyDbEllipse>, &kEllipseMembers, &readEllipse, nullptr, &writeEllipse},
+    {nullptr, &classOf<KyDbPoint>, &kPointMembers, &readPoint, nullptr, &writePoint},
+    {nullptr, &classOf<KyDbPolyline>, &kPolylineMembers, &readPolyline, nullptr, &writePolyline},
+    {nullptr, &classOf<KyDbText>, &kTextMembers, &readText, nullptr, &writeText},
+    {nullptr, &classOf<KyDbMText>, &kMTextMembers, &readMText, nullptr, &writeMText},
+    {nullptr, &classOf<KyDbBlockReference>, &kInsertMembers, &readInsert, &fillInsert,
      &writeInsert},
-    {"DIMENSION", &classOf<KyDbDimension>, &kDimensionMembers, &readDimension, nullptr,
+    {nullptr, &classOf<KyDbDimension>, &kDimensionMembers, &readDimension, nullptr,
      &writeDimension},
-    {"LEADER", &classOf<KyDbLeader>, &kLeaderMembers, &readLeader, nullptr, &writeLeader},
-    {"MLEADER", &classOf<KyDbMLeader>, &kMLeaderMembers, &readMLeader, nullptr, &writeMLeader},
-    {"VIEWPORT", &classOf<KyDbViewport>, &kViewportMembers, &readViewport, nullptr, &writeViewport},
-    {"HATCH", &classOf<KyDbHatch>, &kHatchMembers, &readHatch, nullptr, &writeHatch},
+    {nullptr, &classOf<KyDbLeader>, &kLeaderMembers, &readLeader, nullptr, &writeLeader},
+    {nullptr, &classOf<KyDbMLeader>, &kMLeaderMembers, &readMLeader, nullptr, &writeMLeader},
+    {nullptr, &classOf<KyDbViewport>, &kViewportMembers, &readViewport, nullptr, &writeViewport},
+    {nullptr, &classOf<KyDbHatch>, &kHatchMembers, &readHatch, nullptr, &writeHatch},
     {"IMAGE", nullptr, &kCommon, &checkImage, nullptr, nullptr},
-    {"TABLE", &classOf<KyDbTable>, &kTableMembers, &readTable, nullptr, &writeTable},
-    {"VIEWCALLOUT", &classOf<KyDbViewCallout>, &kViewCalloutMembers, &readViewCallout, nullptr,
+    {nullptr, &classOf<KyDbTable>, &kTableMembers, &readTable, nullptr, &writeTable},
+    {nullptr, &classOf<KyDbViewCallout>, &kViewCalloutMembers, &readViewCallout, nullptr,
      &writeViewCallout},
     {"POINTCLOUD", nullptr, &kCommon, &checkPointCloud, nullptr, nullptr},
 };
@@ -821,9 +821,15 @@ std::span<const KyRefEntityRow> KyRefEntityRows::rows() {
     return kRows;
 }
 
+std::string KyRefEntityRow::type() const {
+    return entityClass != nullptr ? kyrefUtf8(entityClass()->dxfName()) : std::string(keptType);
+}
+
 const KyRefEntityRow* KyRefEntityRows::ofType(const std::string& type) {
+    const KyString word = kyrefWide(type);
     for (const KyRefEntityRow& row : kRows) {
-        if (type == row.type) {
+        if (row.entityClass != nullptr ? word == row.entityClass()->dxfName()
+                                       : type == row.keptType) {
             return &row;
         }
     }
@@ -890,7 +896,7 @@ KyRefJson KyRefEntityRows::write(KyRefWriteContext& context, KyDbObjectId id) {
     if (unknown != nullptr) {
         out["type"] = kyrefUtf8(unknown->typeName());
     } else if (row != nullptr) {
-        out["type"] = row->type;
+        out["type"] = row->type();
     } else {
         out["type"] = kyrefUtf8(entity->isA()->name());
     }

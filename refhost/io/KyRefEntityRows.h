@@ -1,5 +1,6 @@
 // KyRefEntityRows: one row for each entity type of a drawing file: its
-// "type", the class of the database, its members (the members every entity
+// "type" (for a modelled type, the type word its class answers as dxfName),
+// the class of the database, its members (the members every entity
 // has, then its own), and how it is read and written. A type whose row has
 // no class, and any type without a row, is kept whole as a
 // KyDbUnknownEntity: the members every entity has are read into it, the rest
@@ -22,7 +23,9 @@ class KyRefWriteContext;
 class KyRxClass;
 
 struct KyRefEntityRow {
-    const char* type;
+    // The word of a type kept whole; null for a modelled type, whose word its
+    // class carries.
+    const char* keptType;
     // Null for a type kept whole.
     KyRxClass* (*entityClass)();
     const KyRefMemberList* members;
@@ -34,6 +37,9 @@ struct KyRefEntityRow {
     void (*fill)(KyRefReadContext& context, const KyRefJsonNode& node, KyDbEntity& entity);
     // Writes the members of the type's own into `out`.
     void (*write)(KyRefWriteContext& context, const KyDbEntity& entity, KyRefJson& out);
+
+    // The "type" of the row's entities in a drawing file.
+    std::string type() const;
 };
 
 class KyRefEntityRows {

@@ -51,6 +51,7 @@ const KyRefMemberList kLayerMembers{
     {"frozenInNewViewports", "false"},
     {"description", "\"\""},
     {"viewportOverrides", "[]", false, "viewport color linetype lineweight transparency plotStyle"},
+    {"xrefOverrides", "[]"},
 };
 const KyRefMemberList kTextStyleMembers{
     {"name"},        {"font", "\"\""},     {"bigFont", "\"\""},
@@ -240,6 +241,11 @@ void writeLayer(KyRefWriteContext& context, const KyDbSymbolTableRecord& record,
         overrides.push_back(std::move(entry));
     }
     out["viewportOverrides"] = std::move(overrides);
+    KyRefJson xrefOverrides = KyRefJson::array();
+    for (const KyString& name : layer.xrefOverrides()) {
+        xrefOverrides.push_back(kyrefUtf8(name));
+    }
+    out["xrefOverrides"] = std::move(xrefOverrides);
 }
 
 // ---- Text styles
@@ -552,6 +558,30 @@ const KyRefTableRow* KyRefTableRows::ofRecordClass(const KyRxClass* recordClass)
         }
     }
     return nullptr;
+}
+
+void KyRefTableRows::readXrefOverrides(const KyRefJsonNode& node, KyDbObjectId layerId) {
+    const auto overrides = node.optional("xrefOverrides");
+    if (!overrides) {
+        return;
+    }
+    overrides->expectArray();
+    KyStringArray names;
+    for (std::size_t i = 0; i < overrides->size(); ++i) {
+        names.append(overrides->item(i).asText());
+    }
+    if (names.isEmpty()) {
+        return;
+    }
+    KyDbObjectPointer<KyDbLayerTableRecord> layer(layerId, KyDb::kForWrite);
+    if (layer && !layer->isDependent()) {
+        overrides->fail(
+            "expected no overrides: only a layer of an external reference (\"XREF|name\", "
+            "where XREF is a block with \"xref\") has them");
+    }
+    KyRefReadContext::check(layer ? layer->setXrefOverrides(names) : layer.openStatus(), *overrides,
+                            "the names of writable layer properties (\"Color\", \"IsOff\" ...), "
+                            "each once");
 }
 
 void KyRefTableRows::readViewportOverrides(KyRefReadContext& context, const KyRefJsonNode& node,

@@ -49,4 +49,7 @@ public:
     // A layer's overrides in viewports, read once the viewports are there.
     static void readViewportOverrides(KyRefReadContext& context, const KyRefJsonNode& node,
                                       KyDbObjectId layerId);
+    // The properties the drawing overrides on a layer of an external
+    // reference, read once the reference blocks are there.
+    static void readXrefOverrides(const KyRefJsonNode& node, KyDbObjectId layerId);
 };

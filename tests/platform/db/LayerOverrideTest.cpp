@@ -9,6 +9,7 @@
 #include "db/KyDbLine.h"
 #include "db/KyDbLinetypeTable.h"
 #include "db/KyDbLinetypeTableRecord.h"
+#include "db/KyDbSymbolTable.h"
 #include "db/KyDbViewport.h"
 #include "db/KyXRefLayerPropertyOverride.h"
 
@@ -220,26 +221,58 @@ TEST_F(LayerOverrideTest, ARemovedOverrideComesBackWithUndo) {
     EXPECT_EQ(layer->color(paper, overridden), indexColor(6));
 }
 
-TEST_F(LayerOverrideTest, XRefOverridesAreTheNamesTheLayerKeeps) {
-    const KyDbObjectId doors = addLayer(L"Doors");
-    KyStringArray names;
-    names.append(KyString(L"Color"));
-    names.append(KyString(L"IsOff"));
-    ASSERT_EQ(
-        changeWalls([&](KyDbLayerTableRecord* layer) { return layer->setXrefOverrides(names); }),
-        Kyro::eOk);
+TEST_F(LayerOverrideTest, XRefOverridesAreKeptByLayersOfAReferenceOnly) {
+    {
+        KyDbObjectPointer<KyDbSymbolTable> blocks(db->blockTableId(), KyDb::kForWrite);
+        auto* site = new KyDbBlockTableRecord();
+        site->setName(L"Site");
+        site->setPathName(L"site.kyd");
+        KyDbObjectId id;
+        ASSERT_EQ(blocks->add(id, site), Kyro::eOk);
+        site->close();
+    }
+    const KyDbObjectId fence = addLayer(L"Site|Fence");
+    const KyDbObjectId gate = addLayer(L"Site|Gate");
+    auto setNames = [](KyDbObjectId layerId, std::initializer_list<const wchar_t*> list) {
+        KyStringArray names;
+        for (const wchar_t* name : list) {
+            names.append(KyString(name));
+        }
+        KyDbObjectPointer<KyDbLayerTableRecord> layer(layerId, KyDb::kForWrite);
+        return layer->setXrefOverrides(names);
+    };
+    EXPECT_EQ(setNames(fence, {L"Color", L"IsOff"}), Kyro::eOk);
+    EXPECT_EQ(setNames(walls, {L"Color"}), Kyro::eInvalidInput) << "a layer of the drawing itself";
+    EXPECT_EQ(setNames(walls, {}), Kyro::eOk);
+    EXPECT_EQ(setNames(gate, {L"Colour"}), Kyro::eInvalidInput);
+    EXPECT_EQ(setNames(gate, {L"Name"}), Kyro::eInvalidInput) << "not overridable";
+    EXPECT_EQ(setNames(gate, {L"IsOff", L"IsOff"}), Kyro::eInvalidInput);
 
-    EXPECT_TRUE(KyXRefLayerPropertyOverride::hasAnyXRefLayerOverrides(walls));
-    EXPECT_TRUE(KyXRefLayerPropertyOverride::hasXRefLayerOverride(walls, L"color"));
-    EXPECT_FALSE(KyXRefLayerPropertyOverride::hasXRefLayerOverride(walls, L"IsLocked"));
-    EXPECT_FALSE(KyXRefLayerPropertyOverride::hasAnyXRefLayerOverrides(doors));
+    EXPECT_TRUE(KyXRefLayerPropertyOverride::hasAnyXRefLayerOverrides(fence));
+    EXPECT_TRUE(KyXRefLayerPropertyOverride::hasXRefLayerOverride(fence, L"color"));
+    EXPECT_FALSE(KyXRefLayerPropertyOverride::hasXRefLayerOverride(fence, L"IsLocked"));
+    EXPECT_FALSE(KyXRefLayerPropertyOverride::hasAnyXRefLayerOverrides(gate));
     EXPECT_FALSE(KyXRefLayerPropertyOverride::hasAnyXRefLayerOverrides(window)) << "not a layer";
     EXPECT_FALSE(KyXRefLayerPropertyOverride::hasAnyXRefLayerOverrides(KyDbObjectId()));
 
-    KyDbObjectPointer<KyDbLayerTableRecord> open(walls, KyDb::kForWrite);
-    EXPECT_TRUE(KyXRefLayerPropertyOverride::hasAnyXRefLayerOverrides(walls))
-        << "answers while the caller has the layer open";
-    open.close();
+    {
+        KyDbObjectPointer<KyDbLayerTableRecord> open(fence, KyDb::kForWrite);
+        EXPECT_TRUE(KyXRefLayerPropertyOverride::hasAnyXRefLayerOverrides(fence))
+            << "answers while the caller has the layer open";
+        EXPECT_EQ(open->setIsLocked(true), Kyro::eOk);
+        EXPECT_EQ(open->setColor(indexColor(4)), Kyro::eOk);
+        ASSERT_EQ(open->xrefOverrides().length(), 3);
+        EXPECT_EQ(open->xrefOverrides()[2], KyString(L"IsLocked")) << "each noted once, in order";
+    }
+    ASSERT_EQ(changeWalls([](KyDbLayerTableRecord* layer) { return layer->setIsLocked(true); }),
+              Kyro::eOk);
+    EXPECT_FALSE(KyXRefLayerPropertyOverride::hasAnyXRefLayerOverrides(walls));
+
+    auto* loose = new KyDbLayerTableRecord();
+    loose->setName(L"Site|Loose");
+    loose->setIsOff(true);
+    EXPECT_FALSE(loose->hasXrefOverrides()) << "a layer not in a database notes nothing";
+    delete loose;
     EXPECT_EQ(kydbOpenObjectCount(), 0);
 }
 
