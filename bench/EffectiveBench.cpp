@@ -16,6 +16,7 @@
 
 #include "KyRefDocument.h"
 #include "KyRefHost.h"
+#include "LayerDrawings.h"
 #include "db/KyAxDocLock.h"
 #include "db/KyDbDatabase.h"
 #include "db/KyDbLayerTableRecord.h"
@@ -35,15 +36,8 @@
 
 namespace {
 
-using Getter = Kyro::ErrorStatus (KyDiEffectiveProperty::*)(KyDiDynamicObject*&);
-const Getter kGetters[] = {
-    &KyDiEffectiveProperty::getLayer,           &KyDiEffectiveProperty::getDimensionStyle,
-    &KyDiEffectiveProperty::getTextStyle,       &KyDiEffectiveProperty::getLinetype,
-    &KyDiEffectiveProperty::getMLeaderStyle,    &KyDiEffectiveProperty::getSectionViewStyle,
-    &KyDiEffectiveProperty::getDetailViewStyle, &KyDiEffectiveProperty::getTableStyle,
-    &KyDiEffectiveProperty::getMaterial,        &KyDiEffectiveProperty::getLineWeight,
-    &KyDiEffectiveProperty::getColor,           &KyDiEffectiveProperty::getTransparency,
-};
+using Getter = kybench::EffectiveGetter;
+using kybench::kGetters;
 
 // Counts what an effective property tells.
 class Told : public KyDiEffectivePropertyReactor {

@@ -22,10 +22,22 @@
 #include "db/KyDbUndoController.h"
 #include "db/KyDbViewport.h"
 #include "kydi/KyDiCollectionReactor.h"
+#include "kydi/KyDiEffectiveProperty.h"
 #include "kydi/KyDiManager.h"
 #include "kydi/KyDiObservableCollection.h"
 
 namespace kybench {
+
+// The twelve getters of the effective property, in the order of its keys.
+using EffectiveGetter = Kyro::ErrorStatus (KyDiEffectiveProperty::*)(KyDiDynamicObject*&);
+inline constexpr EffectiveGetter kGetters[] = {
+    &KyDiEffectiveProperty::getLayer,           &KyDiEffectiveProperty::getDimensionStyle,
+    &KyDiEffectiveProperty::getTextStyle,       &KyDiEffectiveProperty::getLinetype,
+    &KyDiEffectiveProperty::getMLeaderStyle,    &KyDiEffectiveProperty::getSectionViewStyle,
+    &KyDiEffectiveProperty::getDetailViewStyle, &KyDiEffectiveProperty::getTableStyle,
+    &KyDiEffectiveProperty::getMaterial,        &KyDiEffectiveProperty::getLineWeight,
+    &KyDiEffectiveProperty::getColor,           &KyDiEffectiveProperty::getTransparency,
+};
 
 struct Drawing {
     KyRefDocument* document = nullptr;

@@ -46,15 +46,8 @@ using kybench::Session;
 using kybench::Shape;
 using Clock = std::chrono::steady_clock;
 
-using Getter = Kyro::ErrorStatus (KyDiEffectiveProperty::*)(KyDiDynamicObject*&);
-const Getter kGetters[] = {
-    &KyDiEffectiveProperty::getLayer,           &KyDiEffectiveProperty::getDimensionStyle,
-    &KyDiEffectiveProperty::getTextStyle,       &KyDiEffectiveProperty::getLinetype,
-    &KyDiEffectiveProperty::getMLeaderStyle,    &KyDiEffectiveProperty::getSectionViewStyle,
-    &KyDiEffectiveProperty::getDetailViewStyle, &KyDiEffectiveProperty::getTableStyle,
-    &KyDiEffectiveProperty::getMaterial,        &KyDiEffectiveProperty::getLineWeight,
-    &KyDiEffectiveProperty::getColor,           &KyDiEffectiveProperty::getTransparency,
-};
+using Getter = kybench::EffectiveGetter;
+using kybench::kGetters;
 
 double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
